@@ -1,0 +1,27 @@
+# SPDX-FileCopyrightText: The Stemwright authors
+# SPDX-License-Identifier: MIT
+# Run as a script by the target `layers`: every quoted include of a file below SOURCES must name a header of its own folder
+# or of a floor that the folder has declared. LAYERS holds a line "folder=allowed,allowed" for each folder.
+cmake_minimum_required(VERSION 3.25)
+file(STRINGS ${LAYERS} LINES)
+set(WRONG "")
+foreach(LINE IN LISTS LINES)
+  string(REGEX MATCH "^([^=]+)=(.*)$" _ "${LINE}")
+  set(FOLDER ${CMAKE_MATCH_1})
+  string(REPLACE "," ";" ALLOWED "${CMAKE_MATCH_2}")
+  file(GLOB FILES ${SOURCES}/${FOLDER}/*.h ${SOURCES}/${FOLDER}/*.cpp)
+  foreach(FILE IN LISTS FILES)
+    file(STRINGS ${FILE} INCLUDES REGEX "^ *# *include +\"")
+    foreach(INCLUDE IN LISTS INCLUDES)
+      string(REGEX MATCH "\"([^\"]+)\"" _ "${INCLUDE}")
+      get_filename_component(FROM ${CMAKE_MATCH_1} DIRECTORY)
+      if(NOT FROM IN_LIST ALLOWED)
+        file(RELATIVE_PATH NAME ${SOURCES} ${FILE})
+        string(APPEND WRONG "  ${NAME} includes \"${CMAKE_MATCH_1}\", but ${FOLDER} does not stand on '${FROM}'\n")
+      endif()
+    endforeach()
+  endforeach()
+endforeach()
+if(WRONG)
+  message(FATAL_ERROR "Layer arrows broken (src/CMakeLists.txt says who stands on whom):\n${WRONG}")
+endif()

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/engine/connection.h"
+
+#include <QtCore/QString>
+
+/// Copies files into and out of the long binary columns of a family file (pictures, thumbnails, emblems) in chunks,
+/// over the engine's incremental blob access, so that memory use does not grow with the size of the value. Failures:
+/// Error for the file, SQLite::Exception for the family file. Stands on the connection.
+namespace stemwright
+{
+
+/// The bytes that one step of a chunked copy moves.
+inline constexpr int blobChunkSize = 16384;
+
+/// A long binary value of a family file: the column of the row with this row number.
+struct BlobField {
+    QString table;
+    QString column;
+    qint64 row = 0;
+};
+
+/// Replaces the field's value by the whole content of the file, which must exist. The caller's transaction decides when
+/// it becomes durable.
+void LoadFileIntoField(Connection& connection, const QString& fileName, const BlobField& field);
+
+/// Writes the field's bytes to the file, replacing it. A Null field gives an empty file.
+void SaveFieldToFile(Connection& connection, const BlobField& field, const QString& fileName);
+
+} // namespace stemwright

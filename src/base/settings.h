@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QHash>
+#include <QtCore/QString>
+
+namespace stemwright
+{
+
+/// The per-user settings: text values by section and key. A missing value reads as the empty text; a value that cannot
+/// be written (a read-only home folder, say) is lost without an error, since no setting is worth stopping for.
+class Settings
+{
+public:
+    Settings() = default;
+    Settings(const Settings&) = delete;
+    Settings& operator=(const Settings&) = delete;
+    virtual ~Settings() = default;
+
+    virtual QString value(const QString& section, const QString& key) const = 0;
+    virtual void setValue(const QString& section, const QString& key, const QString& value) = 0;
+};
+
+/// Settings in an INI file; each change is written at once.
+class FileSettings : public Settings
+{
+public:
+    /// Uses the user's own file in the platform's configuration folder.
+    FileSettings();
+    /// Uses the INI file at `path`, made when first written.
+    explicit FileSettings(QString path);
+
+    QString value(const QString& section, const QString& key) const override;
+    void setValue(const QString& section, const QString& key, const QString& value) override;
+
+private:
+    QString m_path;
+};
+
+/// Settings that are forgotten with the object.
+class MemorySettings : public Settings
+{
+public:
+    QString value(const QString& section, const QString& key) const override;
+    void setValue(const QString& section, const QString& key, const QString& value) override;
+
+private:
+    QHash<QString, QString> m_values;
+};
+
+/// The sections and keys in use.
+namespace setting
+{
+inline const QString openCreateFamFile = QStringLiteral("OpenCreateFamFile");
+inline const QString lastFamilyFile = QStringLiteral("LastFamilyFile");
+inline const QString showNewAlbumConfirm = QStringLiteral("ShowNewAlbumConfirm");
+inline const QString picListQueries = QStringLiteral("PicListQueries");
+inline const QString defaultPicListQuery = QStringLiteral("DefaultPicListQuery");
+inline const QString gedcom = QStringLiteral("GEDCOM");
+inline const QString gedcomPath = QStringLiteral("GedcomPath");
+} // namespace setting
+
+} // namespace stemwright

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "cli/commandline.h"
+
+#include <QtCore/QFile>
+
+#include <cstdio>
+
+namespace stemwright
+{
+
+CommandLine::CommandLine(Environment& environment, const GlobalOptions& options)
+    : m_environment(environment), m_options(options), m_out(stdout)
+{
+}
+
+FamilyFile& CommandLine::open(const std::string& path)
+{
+    Require(OpenFamilyFile(m_file, pathOf(path), m_environment));
+    return m_file;
+}
+
+QString CommandLine::pathOf(const std::string& argument)
+{
+    return QFile::decodeName(argument.c_str());
+}
+
+QString CommandLine::textOf(const std::string& argument)
+{
+    return QString::fromLocal8Bit(argument.data(), static_cast<qsizetype>(argument.size()));
+}
+
+void Require(bool succeeded)
+{
+    if (!succeeded) {
+        throw AlreadyReported{};
+    }
+}
+
+} // namespace stemwright

@@ -1,0 +1,271 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "store/engine/connection.h"
+
+#include "base/error.h"
+#include "store/engine/jetsql.h"
+
+#include <sqlite3.h>
+
+namespace stemwright
+{
+
+namespace
+{
+
+/// A family file may come from anyone: nothing in its schema may run code, and damaged pages must be noticed.
+void Harden(SQLite::Database& database)
+{
+    sqlite3* handle = database.getHandle();
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    database.exec("PRAGMA cell_size_check=ON");
+}
+
+} // namespace
+
+void Statement::Finalizer::operator()(sqlite3_stmt* statement) const
+{
+    sqlite3_finalize(statement);
+}
+
+Statement::Statement(const SQLite::Database& database, const QByteArray& sql) : m_database(database.getHandle())
+{
+    sqlite3_stmt* statement = nullptr;
+    check(sqlite3_prepare_v3(m_database, sql.constData(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
+                             &statement, nullptr));
+    m_statement.reset(statement);
+}
+
+void Statement::check(int result) const
+{
+    if (result != SQLITE_OK) {
+        throw SQLite::Exception(m_database, result);
+    }
+}
+
+Statement& Statement::bind(int parameter, const QString& value)
+{
+    if (value.isNull()) {
+        return bindNull(parameter);
+    }
+    const QByteArray utf8 = value.toUtf8();
+    check(sqlite3_bind_text64(m_statement.get(), parameter, utf8.constData(), static_cast<sqlite3_uint64>(utf8.size()),
+                              SQLITE_TRANSIENT, SQLITE_UTF8));
+    return *this;
+}
+
+Statement& Statement::bind(int parameter, int value)
+{
+    check(sqlite3_bind_int(m_statement.get(), parameter, value));
+    return *this;
+}
+
+Statement& Statement::bind(int parameter, qint64 value)
+{
+    check(sqlite3_bind_int64(m_statement.get(), parameter, value));
+    return *this;
+}
+
+Statement& Statement::bind(int parameter, const std::optional<int>& value)
+{
+    return value ? bind(parameter, *value) : bindNull(parameter);
+}
+
+Statement& Statement::bindBytes(int parameter, const QByteArray& value)
+{
+    if (value.isNull()) {
+        return bindNull(parameter);
+    }
+    check(sqlite3_bind_blob64(m_statement.get(), parameter, value.constData(),
+                              static_cast<sqlite3_uint64>(value.size()), SQLITE_TRANSIENT));
+    return *this;
+}
+
+Statement& Statement::bindUtf8(int parameter, std::string_view utf8)
+{
+    const char* text = utf8.data() == nullptr ? "" : utf8.data();
+    check(sqlite3_bind_text64(m_statement.get(), parameter, text, utf8.size(), SQLITE_STATIC, SQLITE_UTF8));
+    return *this;
+}
+
+Statement& Statement::bindNull(int parameter)
+{
+    check(sqlite3_bind_null(m_statement.get(), parameter));
+    return *this;
+}
+
+void Statement::clearBindings()
+{
+    sqlite3_clear_bindings(m_statement.get());
+}
+
+bool Statement::step()
+{
+    const int result = sqlite3_step(m_statement.get());
+    if (result != SQLITE_ROW && result != SQLITE_DONE) {
+        throw SQLite::Exception(m_database, result);
+    }
+    return result == SQLITE_ROW;
+}
+
+void Statement::reset()
+{
+    // The result of the last step, which step() has already reported, is all that a reset can fail with.
+    sqlite3_reset(m_statement.get());
+}
+
+int Statement::run()
+{
+    step();
+    reset();
+    return sqlite3_changes(m_database);
+}
+
+int Statement::columnCount() const
+{
+    return sqlite3_column_count(m_statement.get());
+}
+
+QString Statement::columnName(int column) const
+{
+    return QString::fromUtf8(sqlite3_column_name(m_statement.get(), column));
+}
+
+int Statement::column(QStringView name) const
+{
+    for (int column = 0; column < columnCount(); ++column) {
+        if (name.compare(columnName(column), Qt::CaseInsensitive) == 0) {
+            return column;
+        }
+    }
+    throw Error(QStringLiteral("The family file has no column named %1 where one is expected.").arg(name));
+}
+
+bool Statement::isNull(int column) const
+{
+    return sqlite3_column_type(m_statement.get(), column) == SQLITE_NULL;
+}
+
+QString Statement::text(int column) const
+{
+    if (isNull(column)) {
+        return {};
+    }
+    const std::string_view view = utf8(column);
+    const QString value = QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
+    return value.isNull() ? QStringLiteral("") : value;
+}
+
+int Statement::integer(int column) const
+{
+    return sqlite3_column_int(m_statement.get(), column);
+}
+
+qint64 Statement::integer64(int column) const
+{
+    return sqlite3_column_int64(m_statement.get(), column);
+}
+
+std::optional<int> Statement::optionalInteger(int column) const
+{
+    return isNull(column) ? std::nullopt : std::optional<int>(integer(column));
+}
+
+QByteArray Statement::bytes(int column) const
+{
+    if (isNull(column)) {
+        return {};
+    }
+    const auto* data = static_cast<const char*>(sqlite3_column_blob(m_statement.get(), column));
+    return data == nullptr ? QByteArray("") : QByteArray(data, sqlite3_column_bytes(m_statement.get(), column));
+}
+
+std::string_view Statement::utf8(int column) const
+{
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(m_statement.get(), column));
+    return {text == nullptr ? "" : text, static_cast<std::size_t>(sqlite3_column_bytes(m_statement.get(), column))};
+}
+
+Connection::Connection(const QString& path, OpenMode mode)
+    : m_path(path),
+      m_database(path.toUtf8().constData(),
+                 mode == OpenMode::CreateNew ? SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE : SQLite::OPEN_READWRITE)
+{
+    Harden(m_database);
+    m_database.exec("PRAGMA locking_mode=EXCLUSIVE");
+    m_database.exec("PRAGMA synchronous=FULL");
+    m_database.exec("PRAGMA foreign_keys=OFF");
+    // The lock of this mode is taken by the first write transaction and kept until the connection is closed.
+    m_database.exec("BEGIN EXCLUSIVE; COMMIT");
+}
+
+Statement Connection::prepare(const QString& sql)
+{
+    return Statement(m_database, sql.toUtf8());
+}
+
+Statement Connection::prepareJet(const QString& sql)
+{
+    return prepare(TranslateJetSql(sql));
+}
+
+int Connection::execute(const QString& sql)
+{
+    return m_database.exec(sql.toUtf8().constData());
+}
+
+int Connection::executeJet(const QString& sql)
+{
+    return execute(TranslateJetSql(sql));
+}
+
+bool Connection::hasTable(QStringView name)
+{
+    Statement statement =
+        prepare(QStringLiteral("SELECT 1 FROM sqlite_master WHERE type='table' AND name=?1 COLLATE NOCASE"));
+    return statement.bind(1, name.toString()).step();
+}
+
+qint64 Connection::countRows(const QString& table)
+{
+    Statement statement = prepare(QStringLiteral("SELECT count(*) FROM \"%1\"").arg(table));
+    statement.step();
+    return statement.integer64(0);
+}
+
+qint64 Connection::lastInsertId() const
+{
+    return m_database.getLastInsertRowid();
+}
+
+bool Connection::inTransaction() const
+{
+    return sqlite3_get_autocommit(m_database.getHandle()) == 0;
+}
+
+Transaction::Transaction(Connection& connection) : m_connection(connection), m_nested(connection.inTransaction())
+{
+    m_connection.execute(m_nested ? QStringLiteral("SAVEPOINT inner_action") : QStringLiteral("BEGIN IMMEDIATE"));
+}
+
+Transaction::~Transaction()
+{
+    if (!m_open) {
+        return;
+    }
+    try {
+        m_connection.execute(m_nested ? QStringLiteral("ROLLBACK TO inner_action; RELEASE inner_action")
+                                      : QStringLiteral("ROLLBACK"));
+    } catch (const SQLite::Exception&) {
+        // A failing disk makes the engine roll back on its own; then there is nothing left to undo here.
+    }
+}
+
+void Transaction::commit()
+{
+    m_connection.execute(m_nested ? QStringLiteral("RELEASE inner_action") : QStringLiteral("COMMIT"));
+    m_open = false;
+}
+
+} // namespace stemwright

@@ -1,0 +1,340 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "store/engine/schema.h"
+
+#include "base/error.h"
+
+#include <QtCore/QStringList>
+
+namespace stemwright
+{
+
+namespace
+{
+
+ColumnDefinition Integer(const char* name)
+{
+    return {QString::fromLatin1(name), ColumnType::Integer};
+}
+
+ColumnDefinition AutoNumber(const char* name)
+{
+    return {QString::fromLatin1(name), ColumnType::Integer, ZeroLength::Refused, Numbering::Auto};
+}
+
+ColumnDefinition YesNo(const char* name)
+{
+    return {QString::fromLatin1(name), ColumnType::YesNo};
+}
+
+/// A text column that refuses the empty string.
+ColumnDefinition FilledText(const char* name)
+{
+    return {QString::fromLatin1(name), ColumnType::Text};
+}
+
+ColumnDefinition Text(const char* name)
+{
+    return {QString::fromLatin1(name), ColumnType::Text, ZeroLength::Allowed};
+}
+
+ColumnDefinition Memo(const char* name)
+{
+    return {QString::fromLatin1(name), ColumnType::Memo, ZeroLength::Allowed};
+}
+
+ColumnDefinition Date(const char* name)
+{
+    return {QString::fromLatin1(name), ColumnType::Date, ZeroLength::Allowed};
+}
+
+ColumnDefinition Binary(const char* name)
+{
+    return {QString::fromLatin1(name), ColumnType::Binary, ZeroLength::Allowed};
+}
+
+/// The date and place columns of an event.
+void AppendEvent(std::vector<ColumnDefinition>& columns, const QString& event)
+{
+    for (const char* part : {"_Date", "_Place"}) {
+        columns.push_back({event + QString::fromLatin1(part), ColumnType::Text, ZeroLength::Allowed});
+    }
+}
+
+void AppendEventSlots(std::vector<ColumnDefinition>& columns, int slots)
+{
+    for (int slot = 1; slot <= slots; ++slot) {
+        AppendEvent(columns, QStringLiteral("_FA%1").arg(slot));
+    }
+}
+
+IndexDefinition PrimaryKey(const char* column)
+{
+    return {QString::fromLatin1(column), IndexKind::Primary};
+}
+
+IndexDefinition Index(const char* column)
+{
+    return {QString::fromLatin1(column), IndexKind::Plain};
+}
+
+TableDefinition Indi()
+{
+    TableDefinition table{
+        QStringLiteral("Indi"),
+        {Integer("Id"), Text("Surname"), Text("GivenName"), Text("Suffix"), Text("Sex"), Text("Alias"), Text("Title")},
+        {PrimaryKey("Id")}};
+    AppendEvent(table.columns, QStringLiteral("BIRT"));
+    AppendEvent(table.columns, QStringLiteral("DEAT"));
+    AppendEventSlots(table.columns, individualEventSlots);
+    for (ColumnDefinition column : {Text("Address"), Text("Phone"), Integer("FAMC"), Text("PageOwnerId")}) {
+        table.columns.push_back(std::move(column));
+    }
+    return table;
+}
+
+TableDefinition Fam()
+{
+    TableDefinition table{QStringLiteral("Fam"),
+                          {Integer("Id"), Integer("HusbandId"), Integer("WifeId"), Text("Marriage_Date"),
+                           Text("Marriage_Place"), Text("Marriage_Status")},
+                          {PrimaryKey("Id")}};
+    AppendEventSlots(table.columns, familyEventSlots);
+    table.columns.push_back(Text("_MSTAT"));
+    table.columns.push_back(Text("_MEND"));
+    return table;
+}
+
+TableDefinition AlbumTOC()
+{
+    return {QStringLiteral("AlbumTOC"),
+            {Text("PictureDate"), Text("Place"), Text("Title"), Date("ModificationDate"), Text("EncodPicDate"),
+             AutoNumber("PicId"), Memo("PicDescr"), YesNo("NamesLeft"), Text("PicType"), Text("PicFilename"),
+             Binary("Picture"), YesNo("Rectangle"), Binary("Thumb"), Integer("PicWidth"), Integer("PicHeight")},
+            {PrimaryKey("PicId")}};
+}
+
+TableDefinition PicListQueries()
+{
+    return {QStringLiteral("PicListQueries"),
+            {FilledText("QueryName"),
+             YesNo("IdShow"),
+             YesNo("IdFilter"),
+             Integer("IdFrom"),
+             Integer("IdTo"),
+             Integer("IdSort"),
+             Integer("IdSortOrder"),
+             YesNo("PicDateShow"),
+             YesNo("PicDateFilter"),
+             Text("PicDateFrom"),
+             Text("PicDateTo"),
+             Integer("PicDateSort"),
+             Integer("PicDateSortOrder"),
+             YesNo("PlaceShow"),
+             YesNo("PlaceFilter"),
+             Text("Place"),
+             Integer("PlaceSort"),
+             Integer("PlaceSortOrder"),
+             YesNo("TitleShow"),
+             YesNo("TitleFilter"),
+             Text("TitleContains"),
+             Integer("TitleSort"),
+             Integer("TitleSortOrder"),
+             YesNo("FilenameShow"),
+             YesNo("FilenameFilter"),
+             Text("FilenameContains"),
+             Integer("FilenameSort"),
+             Integer("FilenameSortOrder"),
+             YesNo("ModifDateShow"),
+             YesNo("ModifDateFilter"),
+             Date("ModifDateFrom"),
+             Date("ModifDateTo"),
+             Integer("ModifDateSort"),
+             Integer("ModifDateSortOrder"),
+             YesNo("NamesLeftShow"),
+             YesNo("NamesLeftFilter"),
+             YesNo("NamesLeft"),
+             Integer("NamesLeftSort"),
+             Integer("NamesLeftSortOrder"),
+             YesNo("RectangleShow"),
+             YesNo("RectangleFilter"),
+             YesNo("Rectangle"),
+             Integer("RectangleSort"),
+             Integer("RectangleSortOrder"),
+             YesNo("IndiFilter"),
+             Integer("IndiId"),
+             YesNo("WithAncs"),
+             YesNo("WithDescs")},
+            {}};
+}
+
+TableDefinition WebSiteInfo()
+{
+    return {QStringLiteral("WebSiteInfo"),
+            {Text("SiteTitle"), Memo("TitleStory"), Text("HomePageName"), YesNo("Standalone"), Integer("PersPages"),
+             Integer("PageStyle"), Integer("CellFg"), Integer("CellBg"), Integer("MaxGenOnPage"),
+             Integer("MaxTotalGens"), Integer("MaxPrivacyAge"), Integer("HideLiving"), Text("WebPageFolder"),
+             Text("EmblemFiletype"), Binary("EmblemPicture"), FilledText("SetupName"), YesNo("Pictures4ThisTreeOnly")},
+            {}};
+}
+
+TableDefinition Indi2Page()
+{
+    return {QStringLiteral("Indi2Page"),
+            {Integer("IndiId"), Text("AncestorId"), Text("TreeNumber"), Text("PageOwnerId"),
+             FilledText("GenDisplayType"), Text("Name"), Text("Name4Index"), Memo("AfterName"), Memo("Links2Info"),
+             Text("AncestorChain")},
+            {Index("IndiId"), Index("Name4Index")}};
+}
+
+std::vector<TableDefinition> MakeFamilyFileTables()
+{
+    return {
+        {QStringLiteral("GenInfo"), {Text("StemoraVersion"), Text("GEDCOMFile"), Date("ImportDate")}, {}},
+        Indi(),
+        Fam(),
+        AlbumTOC(),
+        PicListQueries(),
+        {QStringLiteral("SchemaIndi"), {Text("Fact"), Text("Tag"), Text("Label")}, {PrimaryKey("Fact"), Index("Tag")}},
+        {QStringLiteral("SchemaFam"), {Text("Fact"), Text("Tag"), Text("Label")}, {PrimaryKey("Fact")}},
+        {QStringLiteral("Fam2Child"),
+         {Integer("FamId"), Integer("ChildId"), Text("_FREL"), Text("_MREL")},
+         {Index("FamId")}},
+        {QStringLiteral("Spouse2Fam"), {Integer("SpouseId"), Integer("FamId")}, {Index("SpouseId")}},
+        {QStringLiteral("Pic2Person"),
+         {Integer("PicId"), Integer("PersId"), Text("X"), Text("Y"), Text("Width"), Text("Height"), Text("Name")},
+         {Index("PicId")}},
+        {QStringLiteral("WebAddr"), {Integer("Id"), Text("Email1"), Text("Email2"), Text("WebPage")}, {}},
+        WebSiteInfo(),
+        {QStringLiteral("SelectedItems"), {Text("SetupName"), Text("ItemValue")}, {Index("SetupName")}},
+        {QStringLiteral("TreeHeads"),
+         {FilledText("SetupName"), Integer("TreeHeadId"), Text("TreeHeadName"), Text("GenDisplayType"),
+          Integer("IconNo"), AutoNumber("TreeNumber")},
+         {PrimaryKey("TreeNumber")}},
+        Indi2Page(),
+        {QStringLiteral("UniqueIds"), {Integer("Id"), YesNo("DuplicatesAlreadyFound")}, {PrimaryKey("Id")}},
+    };
+}
+
+std::vector<TableDefinition> MakeOldAlbumTables()
+{
+    return {
+        {QStringLiteral("PreV2Indi"), {Text("Name"), AutoNumber("Id")}, {PrimaryKey("Id")}},
+        {QStringLiteral("PreV2Pic2Person"),
+         {Integer("PicId"), Integer("PersId"), Text("X"), Text("Y")},
+         {Index("PicId")}},
+    };
+}
+
+/// The declared type decides how the engine converts what is written: names with CHAR or TEXT keep text as it is (a
+/// place named 007 stays 007), while MEMO, DATE and the like would turn it into numbers.
+QString DeclaredType(ColumnType type)
+{
+    switch (type) {
+    case ColumnType::Integer:
+        return QStringLiteral("INTEGER");
+    case ColumnType::Text:
+        return QStringLiteral("VARCHAR(%1)").arg(maxTextLength);
+    case ColumnType::Memo:
+        return QStringLiteral("LONGTEXT");
+    case ColumnType::Binary:
+        return QStringLiteral("LONGBLOB");
+    case ColumnType::Date:
+        return QStringLiteral("DATETIME_TEXT");
+    case ColumnType::YesNo:
+        return QStringLiteral("BOOLEAN");
+    }
+    return {};
+}
+
+QString CheckOf(const ColumnDefinition& column)
+{
+    const int shortest = column.zeroLength == ZeroLength::Allowed ? 0 : 1;
+    switch (column.type) {
+    case ColumnType::Text:
+        return shortest == 0
+                   ? QStringLiteral(" CHECK (length(\"%1\") <= %2)").arg(column.name).arg(maxTextLength)
+                   : QStringLiteral(" CHECK (length(\"%1\") BETWEEN 1 AND %2)").arg(column.name).arg(maxTextLength);
+    case ColumnType::YesNo:
+        return QStringLiteral(" CHECK (\"%1\" IN (0, -1))").arg(column.name);
+    default:
+        return {};
+    }
+}
+
+/// The key clause of a column. An integer key is the row number itself, so it needs no index of its own; AUTOINCREMENT
+/// keeps the number of a deleted row from being given again. A text key tells no upper from lower case.
+QString KeyOf(const TableDefinition& table, const ColumnDefinition& column)
+{
+    const auto isKey = [&column](const IndexDefinition& index) {
+        return index.kind == IndexKind::Primary && index.column == column.name;
+    };
+    if (std::none_of(table.indexes.begin(), table.indexes.end(), isKey)) {
+        return {};
+    }
+    if (column.type != ColumnType::Integer) {
+        return QStringLiteral(" PRIMARY KEY COLLATE NOCASE");
+    }
+    return column.numbering == Numbering::Auto ? QStringLiteral(" PRIMARY KEY AUTOINCREMENT")
+                                               : QStringLiteral(" PRIMARY KEY");
+}
+
+} // namespace
+
+const std::vector<TableDefinition>& FamilyFileTables()
+{
+    static const std::vector<TableDefinition> tables = MakeFamilyFileTables();
+    return tables;
+}
+
+const std::vector<TableDefinition>& OldAlbumTables()
+{
+    static const std::vector<TableDefinition> tables = MakeOldAlbumTables();
+    return tables;
+}
+
+const TableDefinition& TableNamed(QStringView name)
+{
+    for (const auto* tables : {&FamilyFileTables(), &OldAlbumTables()}) {
+        for (const TableDefinition& table : *tables) {
+            if (name.compare(table.name, Qt::CaseInsensitive) == 0) {
+                return table;
+            }
+        }
+    }
+    throw Error(QStringLiteral("A family file has no table named %1.").arg(name));
+}
+
+void CreateBareTable(Connection& connection, const TableDefinition& table)
+{
+    QStringList columns;
+    for (const ColumnDefinition& column : table.columns) {
+        columns << QStringLiteral("\"%1\" %2%3%4")
+                       .arg(column.name, DeclaredType(column.type), KeyOf(table, column), CheckOf(column));
+    }
+    connection.execute(
+        QStringLiteral("CREATE TABLE \"%1\" (\n  %2\n)").arg(table.name, columns.join(QStringLiteral(",\n  "))));
+}
+
+void CreateIndexes(Connection& connection, const TableDefinition& table)
+{
+    for (const IndexDefinition& index : table.indexes) {
+        if (index.kind == IndexKind::Plain) {
+            connection.execute(
+                QStringLiteral("CREATE INDEX \"%1_%2\" ON \"%1\" (\"%2\")").arg(table.name, index.column));
+        }
+    }
+}
+
+void CreateTable(Connection& connection, const TableDefinition& table)
+{
+    CreateBareTable(connection, table);
+    CreateIndexes(connection, table);
+}
+
+void DropTable(Connection& connection, const TableDefinition& table)
+{
+    connection.execute(QStringLiteral("DROP TABLE IF EXISTS \"%1\"").arg(table.name));
+}
+
+} // namespace stemwright

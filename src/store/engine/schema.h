@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/engine/connection.h"
+
+#include <QtCore/QString>
+
+#include <vector>
+
+/// The schema of the family file as data: every table with its columns in order and its indexes, and the engine's SQL
+/// made from that. Table and column names are used verbatim in SQL elsewhere. Stands on the connection.
+namespace stemwright
+{
+
+/// The types of the schema. How the engine stores them: integer as a 32-bit number, text and memo as UTF-8, date as ISO
+/// text
+/// ("2026-03-12T14:05:00"), yes/no as 0 or -1, binary as bytes.
+enum class ColumnType { Integer, Text, Memo, Binary, Date, YesNo };
+
+/// Whether a text column accepts the empty string. A column that refuses it holds a non-empty value or Null.
+enum class ZeroLength { Allowed, Refused };
+
+/// Whether the engine gives the next number on insert. Numbers are never given twice, even after a deletion.
+enum class Numbering { None, Auto };
+
+struct ColumnDefinition {
+    QString name;
+    ColumnType type = ColumnType::Text;
+    ZeroLength zeroLength = ZeroLength::Refused;
+    Numbering numbering = Numbering::None;
+};
+
+enum class IndexKind { Primary, Plain };
+
+struct IndexDefinition {
+    QString column;
+    IndexKind kind = IndexKind::Plain;
+};
+
+struct TableDefinition {
+    QString name;
+    std::vector<ColumnDefinition> columns;
+    std::vector<IndexDefinition> indexes;
+};
+
+/// The longest text, in characters, that a text column (not a memo) holds.
+inline constexpr int maxTextLength = 255;
+
+/// The number of event slots "_FA1", "_FA2", ... of an individual and of a family.
+inline constexpr int individualEventSlots = 50;
+inline constexpr int familyEventSlots = 20;
+
+/// The 16 tables of a family file, in the order in which a new file creates them.
+const std::vector<TableDefinition>& FamilyFileTables();
+
+/// The two tables that exist only while the names of an old album are being matched.
+const std::vector<TableDefinition>& OldAlbumTables();
+
+/// The definition of a table, its name compared without regard to case. Throws Error for an unknown name.
+const TableDefinition& TableNamed(QStringView name);
+
+/// Creates a table without its secondary indexes; filling a table and indexing it afterwards is much faster than the
+/// other way round. Fails when the table exists.
+void CreateBareTable(Connection& connection, const TableDefinition& table);
+
+/// Creates the secondary indexes of a table.
+void CreateIndexes(Connection& connection, const TableDefinition& table);
+
+/// Creates a table with its indexes.
+void CreateTable(Connection& connection, const TableDefinition& table);
+
+/// Deletes a table with its rows and indexes; a missing table is no error.
+void DropTable(Connection& connection, const TableDefinition& table);
+
+} // namespace stemwright

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/setup.h"
+
+namespace stemwright
+{
+
+std::vector<TreeDefinition> LoadTreeDefinitions(Connection& connection, const QString& setupName)
+{
+    Statement statement = connection.prepare(
+        QStringLiteral("SELECT TreeHeadName, GenDisplayType, TreeHeadId, IconNo, TreeNumber FROM TreeHeads"
+                       " WHERE rtrim(SetupName) = rtrim(?1) COLLATE NOCASE ORDER BY TreeNumber"));
+    statement.bind(1, setupName);
+    std::vector<TreeDefinition> trees;
+    while (statement.step()) {
+        trees.push_back({statement.integer(4), statement.optionalInteger(2), statement.text(0), statement.text(1),
+                         statement.integer(3)});
+    }
+    return trees;
+}
+
+std::vector<SelectedItem> LoadSelectedItems(Connection& connection, const QString& setupName)
+{
+    Statement statement = connection.prepare(QStringLiteral(
+        "SELECT ItemValue FROM SelectedItems WHERE rtrim(SetupName) = rtrim(?1) COLLATE NOCASE ORDER BY rowid"));
+    statement.bind(1, setupName);
+    std::vector<SelectedItem> items;
+    while (statement.step()) {
+        items.push_back(SelectedItem::fromRecord(statement.text(0)));
+    }
+    return items;
+}
+
+std::optional<Setup> LoadSetup(Connection& connection, const QString& name)
+{
+    Statement statement = connection.prepare(QStringLiteral(
+        "SELECT SetupName, SiteTitle, TitleStory, HomePageName, Standalone, PersPages, PageStyle, CellFg,"
+        " CellBg, MaxGenOnPage, MaxTotalGens, MaxPrivacyAge, HideLiving, WebPageFolder,"
+        " Pictures4ThisTreeOnly, EmblemFiletype, rowid"
+        " FROM WebSiteInfo WHERE SetupName = ?1 COLLATE NOCASE"));
+    if (!statement.bind(1, name).step()) {
+        return std::nullopt;
+    }
+    Setup setup;
+    setup.name = statement.text(0);
+    setup.siteTitle = statement.text(1);
+    setup.titleStory = statement.text(2);
+    setup.homePageName = statement.text(3);
+    setup.standalone = statement.integer(4) != 0;
+    setup.personalPages = statement.integer(5) != 0;
+    setup.pageStyle = statement.integer(6);
+    setup.cellForeground = statement.integer(7);
+    setup.cellBackground = statement.integer(8);
+    setup.maxGenerationsOnPage = statement.integer(9);
+    setup.maxTotalGenerations = statement.integer(10);
+    setup.maxPrivacyAge = statement.integer(11);
+    setup.hideLiving = statement.integer(12) != 0;
+    setup.folder = statement.text(13);
+    setup.picturesForThisTreeOnly = statement.integer(14) != 0;
+    setup.emblemFileType = statement.text(15);
+    setup.row = statement.integer64(16);
+    setup.trees = LoadTreeDefinitions(connection, setup.name);
+    setup.items = LoadSelectedItems(connection, setup.name);
+    return setup;
+}
+
+} // namespace stemwright
