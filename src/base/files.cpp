@@ -8,11 +8,15 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace stemwright
@@ -21,23 +25,99 @@ namespace stemwright
 namespace
 {
 
+const QString cannotRead = QStringLiteral("Cannot read file %1: %2.");
+const QString cannotWrite = QStringLiteral("Cannot write file %1: %2.");
+const QString cannotReplace = QStringLiteral("Cannot put the new file in the place of %1: %2.");
+
 [[noreturn]] void Fail(const QString& text, const QString& path, const QString& reason)
 {
     throw Error(text.arg(QDir::toNativeSeparators(path), reason));
 }
 
-QString SystemReason(int error)
+[[noreturn]] void FailWith(const QString& text, const QString& path, int error)
 {
-    return QString::fromLocal8Bit(std::strerror(error));
+    Fail(text, path, QString::fromLocal8Bit(std::strerror(error)));
 }
 
-/// Flushes a file or folder to the disk; folders are opened for that as POSIX allows.
-void Synchronise(const QString& path)
+/// A file descriptor that is closed when it goes out of scope; an error of closing is seen only through close().
+class Descriptor
 {
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (descriptor >= 0) {
-        ::fsync(descriptor);
-        ::close(descriptor);
+public:
+    Descriptor(const QString& path, int flags)
+        : m_descriptor(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, 0666))
+    {
+    }
+
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    ~Descriptor() { close(); }
+
+    bool isOpen() const { return m_descriptor >= 0; }
+
+    int number() const { return m_descriptor; }
+
+    bool close() { return m_descriptor < 0 || ::close(std::exchange(m_descriptor, -1)) == 0; }
+
+private:
+    int m_descriptor;
+};
+
+bool WriteAll(Descriptor& descriptor, const QByteArray& content)
+{
+    const char* position = content.constData();
+    qsizetype left = content.size();
+    while (left > 0) {
+        const ssize_t written = ::write(descriptor.number(), position, static_cast<size_t>(left));
+        if (written < 0 && errno != EINTR) {
+            return false;
+        }
+        const ssize_t done = std::max<ssize_t>(written, 0);
+        position += done;
+        left -= done;
+    }
+    return true;
+}
+
+/// Flushes a file to the disk. A full network disk may say so only here.
+void SynchroniseFile(const QString& path)
+{
+    Descriptor descriptor(path, O_RDONLY);
+    if (!descriptor.isOpen() || ::fsync(descriptor.number()) != 0 || !descriptor.close()) {
+        FailWith(cannotWrite, path, errno);
+    }
+}
+
+/// Flushes a folder's list of names. Some file systems cannot do that, which is no reason to stop: the file itself is
+/// safe under one of its two names.
+void SynchroniseFolder(const QString& path)
+{
+    const Descriptor descriptor(path, O_RDONLY);
+    if (descriptor.isOpen()) {
+        ::fsync(descriptor.number());
+    }
+}
+
+bool IsRunning(int process)
+{
+    return process > 0 && (::kill(process, 0) == 0 || errno == EPERM);
+}
+
+/// Removes what programs that no longer run left behind while they made the file `target`.
+void RemoveLeftovers(const QFileInfo& target)
+{
+    const QString begin = target.fileName() + u'.';
+    const QString middle = QStringLiteral(".unfinished");
+    const QDir folder = target.absoluteDir();
+    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
+    for (const QString& name : names) {
+        const qsizetype end = name.indexOf(middle, begin.size());
+        bool isNumber = false;
+        const int process =
+            name.startsWith(begin) && end > 0 ? name.mid(begin.size(), end - begin.size()).toInt(&isNumber) : 0;
+        if (isNumber && !IsRunning(process)) {
+            QFile::remove(folder.filePath(name));
+        }
     }
 }
 
@@ -52,53 +132,65 @@ QByteArray ReadWholeFile(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        Fail(QStringLiteral("Cannot read file %1: %2."), path, file.errorString());
+        Fail(cannotRead, path, file.errorString());
     }
     const QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError) {
-        Fail(QStringLiteral("Cannot read file %1: %2."), path, file.errorString());
+        Fail(cannotRead, path, file.errorString());
     }
     return content;
 }
 
 void WriteWholeFile(const QString& path, const QByteArray& content)
 {
-    const QByteArray name = QFile::encodeName(path);
-    const int descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-    if (descriptor < 0) {
-        Fail(QStringLiteral("Cannot write file %1: %2."), path, SystemReason(errno));
+    Descriptor descriptor(path, O_WRONLY | O_CREAT | O_TRUNC);
+    if (!descriptor.isOpen()) {
+        FailWith(cannotWrite, path, errno);
     }
-    const char* position = content.constData();
-    qsizetype left = content.size();
-    while (left > 0) {
-        const ssize_t written = ::write(descriptor, position, static_cast<size_t>(left));
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
-        if (written < 0) {
-            const int error = errno;
-            ::close(descriptor);
-            ::unlink(name.constData());
-            Fail(QStringLiteral("Cannot write file %1: %2."), path, SystemReason(error));
-        }
-        position += written;
-        left -= written;
+    if (!WriteAll(descriptor, content) || !descriptor.close()) {
+        const int error = errno;
+        QFile::remove(path);
+        FailWith(cannotWrite, path, error);
     }
-    ::close(descriptor);
 }
 
 void ReplaceFile(const QString& from, const QString& to)
 {
-    Synchronise(from);
+    SynchroniseFile(from);
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0) {
-        Fail(QStringLiteral("Cannot put the new file in the place of %1: %2."), to, SystemReason(errno));
+        FailWith(cannotReplace, to, errno);
     }
-    Synchronise(QFileInfo(to).path());
+    SynchroniseFolder(QFileInfo(to).absolutePath());
 }
 
-QString UnfinishedName(const QString& path)
+bool IsSameFile(const QString& first, const QString& second)
 {
-    return path + QStringLiteral(".unfinished");
+    struct stat left {
+    };
+
+    struct stat right {
+    };
+
+    return ::stat(QFile::encodeName(first).constData(), &left) == 0 &&
+           ::stat(QFile::encodeName(second).constData(), &right) == 0 && left.st_dev == right.st_dev &&
+           left.st_ino == right.st_ino;
+}
+
+UnfinishedFile::UnfinishedFile(QString target)
+    : m_target(std::move(target)), m_path(QStringLiteral("%1.%2.unfinished").arg(m_target).arg(::getpid()))
+{
+    RemoveLeftovers(QFileInfo(m_target));
+    QFile::remove(m_path);
+}
+
+UnfinishedFile::~UnfinishedFile()
+{
+    QFile::remove(m_path);
+}
+
+void UnfinishedFile::putInPlace()
+{
+    ReplaceFile(m_path, m_target);
 }
 
 } // namespace stemwright

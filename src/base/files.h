@@ -5,6 +5,8 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+/// Files as wholes: reading, writing, and putting a finished file in its place in one step. Failures come as Error with
+/// the path and the system's reason. Stands on nothing but the error type.
 namespace stemwright
 {
 
@@ -19,10 +21,33 @@ QByteArray ReadWholeFile(const QString& path);
 void WriteWholeFile(const QString& path, const QByteArray& content);
 
 /// Puts the finished file `from` in the place of `to` (same folder) in one step and makes the change durable: after a
-/// power cut either the old or the new file stands there. Throws Error.
+/// power cut either the old or the new file stands there. Throws Error, and `to` is then as it was.
 void ReplaceFile(const QString& from, const QString& to);
 
-/// A name beside `path` for a file that is being made and will be renamed to `path` when it is whole.
-QString UnfinishedName(const QString& path);
+/// Whether two paths lead to the same existing file, through whatever links.
+bool IsSameFile(const QString& first, const QString& second);
+
+/// A file that is being made beside its place: it has a name of its own there until putInPlace(), and is removed when
+/// that never comes. What a killed program left behind for the same place is removed by the next one; another program
+/// that is making the same file is left alone.
+class UnfinishedFile
+{
+public:
+    /// `target` is the place that the file will have. Creates nothing.
+    explicit UnfinishedFile(QString target);
+    UnfinishedFile(const UnfinishedFile&) = delete;
+    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
+    ~UnfinishedFile();
+
+    /// Where to write the file.
+    const QString& path() const { return m_path; }
+
+    /// Replaces what stands in the file's place (ReplaceFile()).
+    void putInPlace();
+
+private:
+    QString m_target;
+    QString m_path;
+};
 
 } // namespace stemwright

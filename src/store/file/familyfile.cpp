@@ -4,10 +4,10 @@
 
 #include "base/error.h"
 #include "base/files.h"
+#include "store/file/copyfamilyfile.h"
 #include "store/file/createtables.h"
 #include "store/file/messages.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
 namespace stemwright
@@ -18,7 +18,6 @@ namespace
 
 void WriteNewFile(const QString& path, Environment& environment)
 {
-    QFile::remove(path);
     Connection connection(path, OpenMode::CreateNew);
     Transaction transaction(connection);
     CreateFamilyFileTables(connection, environment);
@@ -30,12 +29,12 @@ void WriteNewFile(const QString& path, Environment& environment)
 bool CreateFamilyFile(FamilyFile& file, const QString& path, Environment& environment)
 {
     const QString target = QFileInfo(path).absoluteFilePath();
-    const QString unfinished = UnfinishedName(target);
     try {
-        WriteNewFile(unfinished, environment);
-        ReplaceFile(unfinished, target);
+        PrepareToReplace(target);
+        UnfinishedFile unfinished(target);
+        WriteNewFile(unfinished.path(), environment);
+        unfinished.putInPlace();
     } catch (const std::exception& exception) {
-        QFile::remove(unfinished);
         environment.talk.tell(storemessages::CannotCreate(target, ErrorText(exception)));
         return false;
     }

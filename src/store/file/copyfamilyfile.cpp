@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "store/file/copyfamilyfile.h"
+
+#include "base/error.h"
+#include "base/files.h"
+
+#include <SQLiteCpp/Backup.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+#include <sqlite3.h>
+
+namespace stemwright
+{
+
+namespace
+{
+
+const QString backupExtension = QStringLiteral(".ffb");
+
+/// The copy needs no journal, since it is thrown away when it does not become whole, and hardly any cache, since each
+/// page is written once. It is flushed to the disk when it is put in place.
+SQLite::Database OpenCopy(const QString& path)
+{
+    SQLite::Database copy(path.toUtf8().constData(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    copy.exec("PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA cache_size=-512");
+    return copy;
+}
+
+void RequireSound(SQLite::Database& copy)
+{
+    const std::string result = copy.execAndGet("PRAGMA quick_check(1)").getString();
+    if (result != "ok") {
+        throw Error(QStringLiteral("The copy of the family file is not sound (%1). Please check the family file.")
+                        .arg(QString::fromStdString(result)));
+    }
+}
+
+} // namespace
+
+void PrepareToReplace(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        return;
+    }
+    const QString shown = QDir::toNativeSeparators(path);
+    if (!info.isFile()) {
+        throw Error(QStringLiteral("%1 is not a file.").arg(shown));
+    }
+    if (!info.isWritable()) {
+        throw Error(QStringLiteral("File %1 is write-protected.").arg(shown));
+    }
+    try {
+        const Connection takesWhatTheJournalHolds(path, OpenMode::ReadWrite);
+    } catch (const SQLite::Exception& exception) {
+        if (exception.getErrorCode() == SQLITE_BUSY) {
+            throw Error(QStringLiteral("File %1 is in use by this or another program.").arg(shown));
+        }
+        // Whatever it is, the user wishes it replaced.
+    }
+    for (const char* companion : {"-journal", "-wal", "-shm"}) {
+        QFile::remove(path + QString::fromLatin1(companion));
+    }
+}
+
+void CopyFamilyFile(Connection& connection, const QString& target)
+{
+    if (IsSameFile(connection.path(), target)) {
+        throw Error(QStringLiteral("A family file cannot be copied onto itself."));
+    }
+    PrepareToReplace(target);
+    UnfinishedFile unfinished(target);
+    {
+        SQLite::Database copy = OpenCopy(unfinished.path());
+        SQLite::Backup(copy, connection.engine()).executeStep(-1);
+        RequireSound(copy);
+    }
+    unfinished.putInPlace();
+}
+
+QString BackupPath(const QString& familyFile)
+{
+    const QFileInfo info(familyFile);
+    return info.absoluteDir().filePath(info.completeBaseName() + backupExtension);
+}
+
+QString BackupFamilyFile(Connection& connection)
+{
+    QString target = BackupPath(connection.path());
+    CopyFamilyFile(connection, target);
+    return target;
+}
+
+} // namespace stemwright

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/engine/connection.h"
+
+#include <QtCore/QString>
+
+/// Whole copies of the open family file, made through the engine, so that they are whole whatever the connection is
+/// doing meanwhile. A copy is written beside its place, checked, and put there in one step: until then an older file in
+/// that place stays as it is. Failures: Error, SQLite::Exception. Stands on the connection.
+namespace stemwright
+{
+
+/// Copies the open family file to `target`, replacing a file that stands there. Refuses to replace the open file itself
+/// and a file that another program has open. Must not be called within a transaction.
+void CopyFamilyFile(Connection& connection, const QString& target);
+
+/// Where the backup of a family file goes: the same folder and base name, the extension ".ffb".
+QString BackupPath(const QString& familyFile);
+
+/// Copies the open family file to its backup, replacing an older one. Returns the backup's path. Must not be called
+/// within a transaction.
+QString BackupFamilyFile(Connection& connection);
+
+/// Makes sure that the file at `path` may be replaced: it is no folder and not write-protected, and no other program
+/// has it open. Whatever the engine's journal beside it has to say to it is done, so that the journal is not taken for
+/// that of the file which comes in its place. A missing file is fine.
+void PrepareToReplace(const QString& path);
+
+} // namespace stemwright

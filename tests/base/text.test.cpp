@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "base/text.h"
+
+#include <gtest/gtest.h>
+
+namespace stemwright::test
+{
+
+TEST(Text, SameNameSeesNoCaseAndNoBlanksAtTheEnd)
+{
+    struct Case {
+        const char16_t* first;
+        const char16_t* second;
+        bool same;
+    };
+
+    const Case cases[] = {
+        {u"Default", u"default", true},
+        {u"Default", u"Default  ", true},
+        {u"Default", u" Default", false},
+        {u"", u"  ", true},
+        {u"", u"a", false},
+        {u"Élise", u"éLISE", true},
+        {u"Élise", u"Elise", false},
+        {u"E\u0301lise", u"Élise", true},
+        {u"Яков", u"яКОВ", true},
+        {u"ΣΟΦΙΑ", u"σοφια", true},
+        {u"Zoë", u"Zoe", false},
+        {u"Smith, John", u"Smith,John", false},
+        {u"O'Brien", u"OBrien", false},
+        {u"王", u"王", true},
+        {u"007", u"7", false},
+    };
+    for (const Case& each : cases) {
+        const QString first = QString::fromUtf16(each.first);
+        const QString second = QString::fromUtf16(each.second);
+        EXPECT_EQ(SameName(first, second), each.same) << first.toStdString() << " / " << second.toStdString();
+        EXPECT_EQ(CollationKey(first) == CollationKey(second), each.same) << first.toStdString();
+        EXPECT_EQ(CompareTexts(first.toStdString(), second.toStdString()) == 0, each.same) << first.toStdString();
+    }
+}
+
+TEST(Text, NamesSortAsAReaderExpects)
+{
+    const QString ordered[] = {QStringLiteral(""),      QStringLiteral("12"),    QStringLiteral("Eaton"),
+                               QStringLiteral("Edel"),  QStringLiteral("Édel"),  QStringLiteral("edele"),
+                               QStringLiteral("Ez"),    QStringLiteral("Lopez"), QStringLiteral("Łopacz"),
+                               QStringLiteral("Ñandú"), QStringLiteral("Ng"),    QStringLiteral("Zander"),
+                               QStringLiteral("Ωμέγα"), QStringLiteral("Иван"),  QStringLiteral("йод"),
+                               QStringLiteral("Яков"),  QStringLiteral("אברהם"), QStringLiteral("王")};
+    for (std::size_t index = 1; index < std::size(ordered); ++index) {
+        const QString& first = ordered[index - 1];
+        const QString& second = ordered[index];
+        EXPECT_LT(CompareTexts(first, second), 0) << first.toStdString() << " / " << second.toStdString();
+        EXPECT_LT(CompareTexts(first.toStdString(), second.toStdString()), 0) << first.toStdString();
+        EXPECT_LT(CollationKey(first), CollationKey(second)) << first.toStdString();
+    }
+}
+
+TEST(Text, KeysOfLongTextsAreWhole)
+{
+    const QString begin(5000, u'ä');
+    EXPECT_LT(CollationKey(begin + u'a'), CollationKey(begin + u'b'));
+    EXPECT_EQ(CollationKey(begin + u'a'), CollationKey(begin.toUpper() + u'A'));
+}
+
+} // namespace stemwright::test
