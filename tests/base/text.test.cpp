@@ -43,12 +43,12 @@ TEST(Text, SameNameSeesNoCaseAndNoBlanksAtTheEnd)
 
 TEST(Text, NamesSortAsAReaderExpects)
 {
-    const QString ordered[] = {QStringLiteral(""),      QStringLiteral("12"),    QStringLiteral("Eaton"),
-                               QStringLiteral("Edel"),  QStringLiteral("Édel"),  QStringLiteral("edele"),
-                               QStringLiteral("Ez"),    QStringLiteral("Lopez"), QStringLiteral("Łopacz"),
-                               QStringLiteral("Ñandú"), QStringLiteral("Ng"),    QStringLiteral("Zander"),
-                               QStringLiteral("Ωμέγα"), QStringLiteral("Иван"),  QStringLiteral("йод"),
-                               QStringLiteral("Яков"),  QStringLiteral("אברהם"), QStringLiteral("王")};
+    const QString ordered[] = {QStringLiteral(""),      QStringLiteral("12"),     QStringLiteral("Eaton"),
+                               QStringLiteral("Edel"),  QStringLiteral("Édel"),   QStringLiteral("edele"),
+                               QStringLiteral("Ez"),    QStringLiteral("Łopacz"), QStringLiteral("Lopez"),
+                               QStringLiteral("Ñandú"), QStringLiteral("Ng"),     QStringLiteral("Zander"),
+                               QStringLiteral("Ωμέγα"), QStringLiteral("Иван"),   QStringLiteral("йод"),
+                               QStringLiteral("Яков"),  QStringLiteral("אברהם"),  QStringLiteral("王")};
     for (std::size_t index = 1; index < std::size(ordered); ++index) {
         const QString& first = ordered[index - 1];
         const QString& second = ordered[index];
