@@ -49,7 +49,7 @@ def site(share, style):
         "tree.html": template(f"{look}/tree.html"),
         "topleft.html": template("html/topleft.html"),
         "left.html": template(f"{look}/left.html"),
-        "bottom.html": template(f"{look}/bottom.html", HomeLink="", Version="", Year="sample"),
+        "bottom.html": template(f"{look}/bottom.html", HomeLink="", Version=f"in the style {style}", Year="a sample"),
         "topright.html": template(f"{look}/topright.html", CommonAncestor=phrase, ListOfPicsLink="",
                                   Title4TreesIcon="List of family trees"),
         "main.html": template(f"{look}/main.html", TitleStory=STORY, SiteTitle="The Larkspur Family",
