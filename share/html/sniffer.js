@@ -97,10 +97,6 @@ function showTitle(text) {
             line.className = "line";
             line.style.setProperty("--dots", dots);
         });
-        var target = location.hash && document.getElementsByName(location.hash.slice(1))[0];
-        if (target) {
-            target.scrollIntoView({ block: "center" });
-        }
     }
 
     function offerSite() {

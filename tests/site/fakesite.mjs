@@ -61,7 +61,7 @@ function outlinePage(owners, people, deep) {
         `${lines.join("\r\n")}\r\n</FONT>\r\n</BODY>\r\n</HTML>\r\n`;
 }
 
-// Each person is the parent of the next, so the last ones stand many blocks deep.
+// Each person is the parent of the next, so the last ones stand many blocks deep; the head has a younger child besides.
 function collapsiblePage(top, people) {
     const lines = people.map((person, place) => {
         const generation = place + 1;
@@ -72,7 +72,8 @@ function collapsiblePage(top, people) {
         const block = leaf ? "" : `<DIV ID="OUT${person.id}D" STYLE="display: none">\r\n<BR>${indent}&nbsp;&nbsp;&nbsp;&nbsp;<B>+ Mary Ann</B> `;
         return `<BR>${indent}${expander}<B>${generation}&nbsp;<A HREF = "PersPage_${person.id}.html" TITLE="This Individual's Personal Page">${html(person.name)}</A></B> b. 1850<A NAME="${person.id}"></A>${block}\r\n`;
     });
-    return `${top}${lines.join("")}${"</DIV>\r\n".repeat(people.length - 1)}</SPAN>\r\n</NOBR>\r\n</BODY>\r\n</HTML>\r\n`;
+    const younger = `<BR>${"&nbsp;".repeat(12)}<B>2&nbsp;Younger Child</B> <A NAME="999"></A>\r\n`;
+    return `${top}${lines.join("")}${"</DIV>\r\n".repeat(people.length - 2)}${younger}</DIV>\r\n</SPAN>\r\n</NOBR>\r\n</BODY>\r\n</HTML>\r\n`;
 }
 
 function indexPage(top, people) {

@@ -116,7 +116,7 @@ test("the top left frame lets only text, local links and tree icons through, and
         ["<b>bold</b>", "<span>bold</span>"],
         ["<A HREF='Outline_3_12.html#5'>x</A>->", "<a href=\"Outline_3_12.html#5\">x</a> \u203a "],
         ["<IMG SRC='graphics/icons_tree_12.gif' onload='hacked=1'>", "<img src=\"graphics/icons_tree_12.gif\" alt=\"\">"],
-        ["<a href='javascript:hacked=1'>x</a><a href='//example.org/a.html'>y</a><a href='../a.html'>z</a>", "<span>x</span><span>y</span><span>z</span>"],
+        ["<a href='javascript:hacked=1'>x</a><a href='//example.org/a.html'>y</a><a href='../a.html'>z</a><a href='a.html.exe'>e</a>", "<span>x</span><span>y</span><span>z</span><span>e</span>"],
         ["<img src='x' onerror='hacked=1'><svg onload='hacked=1'></svg><iframe srcdoc='x'></iframe>", "<span></span><span></span><span></span>"],
         ["<script>hacked=1</script><style>*{color:red}</style>", ""],
     ];
@@ -316,6 +316,16 @@ test("text and links stand out from every shade of their ground", async (t) => {
                 assert.ok(worst >= 4.5, `${style}: ${names[place]} on ${ground} has a contrast of ${worst.toFixed(2)}`);
             });
         }
+    }
+});
+
+test("pages print black on white", async (t) => {
+    for (const style of styles) {
+        const page = await visit(t, { style, page: "PersPage_4.html" });
+        await page.emulateMedia({ media: "print" });
+        const colours = await page.evaluate(() => ["H3", "TD", "A[HREF^=PersPage]", "B"].map((name) => getComputedStyle(document.querySelector(name)).color)
+            .concat(getComputedStyle(document.body).backgroundColor, getComputedStyle(document.documentElement).backgroundImage));
+        assert.deepEqual(colours, [...Array(4).fill("rgb(0, 0, 0)"), "rgb(255, 255, 255)", "none"], style);
     }
 });
 
