@@ -195,7 +195,8 @@ private:
         m_tokens.expectWord(u"BY");
         QStringList keys;
         do {
-            keys << WithOrder(m_reader.read()) + direction();
+            const QString key = WithOrder(m_reader.read());
+            keys << key + direction();
         } while (m_tokens.takeSymbol(u","));
         return QStringLiteral(" ORDER BY ") + keys.join(separator);
     }
