@@ -103,11 +103,17 @@ QString Folded(QStringView text)
 
 } // namespace
 
+Pattern::Pattern(QStringView pattern) : m_folded(Folded(pattern)) {}
+
+bool Pattern::matches(QStringView text) const
+{
+    const QString folded = Folded(text);
+    return Matcher(folded, m_folded).matches();
+}
+
 bool MatchesPattern(QStringView text, QStringView pattern)
 {
-    const QString foldedText = Folded(text);
-    const QString foldedPattern = Folded(pattern);
-    return Matcher(foldedText, foldedPattern).matches();
+    return Pattern(pattern).matches(text);
 }
 
 } // namespace stemwright

@@ -82,7 +82,8 @@ public:
 
     const QString& path() const { return m_path; }
 
-    /// Prepares a statement of the engine's own SQL.
+    /// Prepares a statement of the engine's own SQL. It can compare and sort texts by the rule of base/text.h with
+    /// COLLATE names.
     Statement prepare(const QString& sql);
     /// Prepares a statement of the dialect of earlier releases (jetsql.h).
     Statement prepareJet(const QString& sql);

@@ -4,11 +4,19 @@
 
 #include <QtCore/QString>
 
+/// The query dialect of earlier releases, which the fixed query texts and the saved queries keep, turned into the
+/// engine's SQL. It knows SELECT with DISTINCTROW, tables joined by commas, WHERE, GROUP BY, HAVING and ORDER BY;
+/// UPDATE; DELETE; ALTER COLUMN; `&`, LIKE, IsNull, CStr, #dates#, [names], yes/no words and numbered parameters (?1).
+/// Texts compare by the rules of base/text.h and base/pattern.h. A text that it does not understand fails with Error; a
+/// name that the family file does not have is left for the engine to refuse. Stands on the schema.
 namespace stemwright
 {
 
-/// Turns a statement of the dialect that earlier releases wrote (and that the fixed query texts keep) into the engine's
-/// SQL.
+/// The engine's SQL for a whole statement.
 QString TranslateJetSql(const QString& sql);
+
+/// The engine's SQL for a search criterion, such as "Tag = 'BURI'" or "FullName Like 'Smith*'", to stand behind WHERE.
+/// `table` is the table that it searches; it may be empty for the rows of a query.
+QString TranslateJetCriterion(const QString& criterion, const QString& table = {});
 
 } // namespace stemwright

@@ -6,6 +6,8 @@
 
 #include <QtCore/QStringList>
 
+#include <limits>
+
 namespace stemwright
 {
 
@@ -247,19 +249,32 @@ QString DeclaredType(ColumnType type)
     return {};
 }
 
+/// The rule that a column's values keep. Most columns of a tree are Null, and asking that first costs a fifth of what
+/// measuring the length of nothing does when many rows are inserted.
 QString CheckOf(const ColumnDefinition& column)
 {
-    const int shortest = column.zeroLength == ZeroLength::Allowed ? 0 : 1;
+    QString rule;
     switch (column.type) {
     case ColumnType::Text:
-        return shortest == 0
-                   ? QStringLiteral(" CHECK (length(\"%1\") <= %2)").arg(column.name).arg(maxTextLength)
-                   : QStringLiteral(" CHECK (length(\"%1\") BETWEEN 1 AND %2)").arg(column.name).arg(maxTextLength);
+        rule = column.zeroLength == ZeroLength::Allowed ? QStringLiteral("length(\"%1\") <= %2")
+                                                        : QStringLiteral("length(\"%1\") BETWEEN 1 AND %2");
+        rule = rule.arg(column.name).arg(maxTextLength);
+        break;
     case ColumnType::YesNo:
-        return QStringLiteral(" CHECK (\"%1\" IN (0, -1))").arg(column.name);
-    default:
+        rule = QStringLiteral("\"%1\" IN (0, -1)").arg(column.name);
+        break;
+    case ColumnType::Integer:
+        rule = QStringLiteral("\"%1\" BETWEEN %2 AND %3")
+                   .arg(column.name)
+                   .arg(std::numeric_limits<qint32>::min())
+                   .arg(std::numeric_limits<qint32>::max());
+        break;
+    case ColumnType::Memo:
+    case ColumnType::Binary:
+    case ColumnType::Date:
         return {};
     }
+    return QStringLiteral(" CHECK (\"%1\" IS NULL OR %2)").arg(column.name, rule);
 }
 
 /// The key clause of a column. An integer key is the row number itself, so it needs no index of its own; AUTOINCREMENT
@@ -293,14 +308,32 @@ const std::vector<TableDefinition>& OldAlbumTables()
     return tables;
 }
 
-const TableDefinition& TableNamed(QStringView name)
+const TableDefinition* FindTable(QStringView name)
 {
     for (const auto* tables : {&FamilyFileTables(), &OldAlbumTables()}) {
         for (const TableDefinition& table : *tables) {
             if (name.compare(table.name, Qt::CaseInsensitive) == 0) {
-                return table;
+                return &table;
             }
         }
+    }
+    return nullptr;
+}
+
+const ColumnDefinition* FindColumn(const TableDefinition& table, QStringView name)
+{
+    for (const ColumnDefinition& column : table.columns) {
+        if (name.compare(column.name, Qt::CaseInsensitive) == 0) {
+            return &column;
+        }
+    }
+    return nullptr;
+}
+
+const TableDefinition& TableNamed(QStringView name)
+{
+    if (const TableDefinition* table = FindTable(name)) {
+        return *table;
     }
     throw Error(QStringLiteral("A family file has no table named %1.").arg(name));
 }

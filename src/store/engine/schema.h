@@ -14,8 +14,7 @@ namespace stemwright
 {
 
 /// The types of the schema. How the engine stores them: integer as a 32-bit number, text and memo as UTF-8, date as ISO
-/// text
-/// ("2026-03-12T14:05:00"), yes/no as 0 or -1, binary as bytes.
+/// text ("2026-03-12T14:05:00"), yes/no as 0 or -1, binary as bytes.
 enum class ColumnType { Integer, Text, Memo, Binary, Date, YesNo };
 
 /// Whether a text column accepts the empty string. A column that refuses it holds a non-empty value or Null.
@@ -56,6 +55,11 @@ const std::vector<TableDefinition>& FamilyFileTables();
 
 /// The two tables that exist only while the names of an old album are being matched.
 const std::vector<TableDefinition>& OldAlbumTables();
+
+/// The definition of a table or of a table's column, names compared without regard to case; nullptr for an unknown
+/// name.
+const TableDefinition* FindTable(QStringView name);
+const ColumnDefinition* FindColumn(const TableDefinition& table, QStringView name);
 
 /// The definition of a table, its name compared without regard to case. Throws Error for an unknown name.
 const TableDefinition& TableNamed(QStringView name);

@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "store/engine/jetsql.h"
+
+#include "base/error.h"
+#include "base/files.h"
+#include "support/testworld.h"
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+
+namespace stemwright::test
+{
+
+namespace
+{
+
+/// A query of the data file and what it must give, both as they stand there.
+struct QueryCase {
+    QString sql;
+    QStringList expected;
+};
+
+std::vector<QueryCase> ReadCases(const QString& path)
+{
+    std::vector<QueryCase> cases;
+    const QStringList lines = QString::fromUtf8(ReadWholeFile(path)).split(u'\n');
+    for (const QString& line : lines) {
+        if (line.isEmpty() || line.startsWith(u'#')) {
+            continue;
+        }
+        if (line.startsWith(u'=') || line.startsWith(u'!') || line.startsWith(u'*')) {
+            cases.back().expected << line;
+        } else {
+            cases.push_back({line, {}});
+        }
+    }
+    return cases;
+}
+
+QString ShownValue(const Statement& statement, int column)
+{
+    if (statement.isNull(column)) {
+        return QStringLiteral("~");
+    }
+    const QString name = statement.columnName(column);
+    const bool binary = name == u"Picture" || name == u"Thumb";
+    return binary ? QStringLiteral("<%1>").arg(statement.bytes(column).size()) : statement.text(column);
+}
+
+QStringList RowsOf(Statement& statement)
+{
+    QStringList rows;
+    while (statement.step()) {
+        QStringList values;
+        for (int column = 0; column < statement.columnCount(); ++column) {
+            values << ShownValue(statement, column);
+        }
+        rows << QStringLiteral("= ") + values.join(u'|');
+    }
+    return rows;
+}
+
+/// What running the query gives, in the data file's own form.
+QStringList Outcome(Connection& connection, const QueryCase& query)
+{
+    try {
+        if (!query.sql.startsWith(QStringLiteral("SELECT"))) {
+            return {QStringLiteral("* %1").arg(connection.executeJet(query.sql))};
+        }
+        Statement statement = connection.prepareJet(query.sql);
+        return RowsOf(statement);
+    } catch (const std::exception& exception) {
+        return {QStringLiteral("! ") + ErrorText(exception)};
+    }
+}
+
+} // namespace
+
+TEST(JetSql, EveryQueryGivesItsRows)
+{
+    TestWorld world;
+    Connection& connection = world.newFamilyFile().connection();
+    connection.execute(QString::fromUtf8(ReadWholeFile(TestData(QStringLiteral("store/queries.sql")))));
+    const std::vector<QueryCase> cases = ReadCases(TestData(QStringLiteral("store/queries.txt")));
+    ASSERT_GT(cases.size(), 60U);
+    for (const QueryCase& query : cases) {
+        const QStringList outcome = Outcome(connection, query);
+        if (query.expected.value(0).startsWith(u'!')) {
+            EXPECT_TRUE(outcome.value(0).startsWith(u'!') && outcome.value(0).contains(query.expected[0].mid(2)))
+                << query.sql.toStdString() << "\n  gives " << outcome.join(u'\n').toStdString();
+        } else {
+            EXPECT_EQ(outcome.join(u'\n'), query.expected.join(u'\n')) << query.sql.toStdString();
+        }
+    }
+}
+
+TEST(JetSql, CriteriaFindTheirRows)
+{
+    TestWorld world;
+    Connection& connection = world.newFamilyFile().connection();
+    connection.execute(QString::fromUtf8(ReadWholeFile(TestData(QStringLiteral("store/queries.sql")))));
+
+    struct Case {
+        QString table;
+        QString criterion;
+        int found;
+    };
+
+    const Case cases[] = {
+        {QStringLiteral("SchemaIndi"), QStringLiteral("Tag = 'buri'"), 1},
+        {QStringLiteral("SchemaIndi"), QStringLiteral("Label = 'O''Brien''s oath'"), 1},
+        {QStringLiteral("SchemaFam"), QStringLiteral("Label = 'Partnership Ending Status'"), 1},
+        {QStringLiteral("PicListQueries"), QStringLiteral("QueryName = 'ÉLAN'"), 1},
+        {QStringLiteral("TreeHeads"), QStringLiteral("SetupName = 'Second'"), 1},
+        {QStringLiteral("Indi2Page"), QStringLiteral("IndiId = 3"), 2},
+        {QStringLiteral("Indi"), QStringLiteral("FAMC = 10"), 2},
+        {QStringLiteral("Indi"), QStringLiteral("Surname Like 'Smith*'"), 2},
+        {QStringLiteral("Indi"), QStringLiteral("Surname Like '*r'"), 2},
+        {QStringLiteral("Indi"), QStringLiteral("Surname LIKE 'o''brien'"), 1},
+    };
+    for (const Case& each : cases) {
+        Statement count = connection.prepare(QStringLiteral("SELECT count(*) FROM %1 WHERE ").arg(each.table) +
+                                             TranslateJetCriterion(each.criterion, each.table));
+        ASSERT_TRUE(count.step());
+        EXPECT_EQ(count.integer(0), each.found) << each.criterion.toStdString();
+    }
+    Statement rows = connection.prepare(
+        QStringLiteral("SELECT Id FROM (") +
+        TranslateJetSql(QStringLiteral("SELECT Id, Surname & ', ' & GivenName AS FullName FROM Indi")) +
+        QStringLiteral(") WHERE ") + TranslateJetCriterion(QStringLiteral("FullName Like 'smith, j*'")));
+    ASSERT_TRUE(rows.step());
+    EXPECT_EQ(rows.integer(0), 1);
+    EXPECT_THROW(TranslateJetCriterion(QStringLiteral("Label = 'O'Brien'")), Error);
+}
+
+TEST(JetSql, ParametersTakeTextsWithQuotes)
+{
+    TestWorld world;
+    Connection& connection = world.newFamilyFile().connection();
+    Statement insert = connection.prepare(QStringLiteral("INSERT INTO SelectedItems (SetupName) VALUES (?1)"));
+    insert.bind(1, QStringLiteral("Ann's; DROP ")).run();
+    Statement find = connection.prepareJet(QStringLiteral("SELECT * FROM SelectedItems WHERE SetupName = ?1"));
+    EXPECT_TRUE(find.bind(1, QStringLiteral("ANN'S; drop")).step());
+}
+
+/// A list of pictures must cost the same whatever the pictures weigh, so what tells which rows repeat may not read
+/// them.
+TEST(JetSql, DistinctRowsNeverReadPictures)
+{
+    TestWorld world;
+    Connection& connection = world.newFamilyFile().connection();
+    connection.execute(
+        QStringLiteral("INSERT INTO AlbumTOC (Picture) VALUES (zeroblob(100000000)), (zeroblob(100000000));"
+                       "INSERT INTO Pic2Person (PicId, PersId) VALUES (1, 1), (1, 2), (2, 1)"));
+    const qint64 before = sqlite3_memory_used();
+    sqlite3_memory_highwater(1);
+    Statement statement = connection.prepareJet(
+        QStringLiteral("SELECT DISTINCTROW AlbumTOC.PicId FROM AlbumTOC, Pic2Person WHERE AlbumTOC.PicId ="
+                       " Pic2Person.PicId AND NOT IsNull(AlbumTOC.Picture) ORDER BY AlbumTOC.PicId"));
+    EXPECT_EQ(RowsOf(statement), QStringList({QStringLiteral("= 1"), QStringLiteral("= 2")}));
+    EXPECT_LT(sqlite3_memory_highwater(0) - before, 10'000'000);
+}
+
+} // namespace stemwright::test
