@@ -20,16 +20,27 @@ struct GivenOptions {
     std::optional<std::string> afterItem;
 };
 
+/// Two flags that exclude each other and set or clear a value.
+void AddSwitch(CLI::App& command, std::optional<bool>& value, const std::string& on, const std::string& off,
+               const std::string& description)
+{
+    auto* set = command.add_flag_callback(
+        on, [&value] { value = true; }, description);
+    command
+        .add_flag_callback(
+            off, [&value] { value = false; }, "The opposite of " + on)
+        ->excludes(set);
+}
+
 std::shared_ptr<GivenOptions> AddItemOptions(CLI::App& command)
 {
     auto given = std::make_shared<GivenOptions>();
-    command.add_flag("--in-tree,!--no-tree", given->inTree,
-                     "Show the item in the family tree too, or only on personal pages");
+    AddSwitch(command, given->inTree, "--in-tree", "--no-tree",
+              "Show the item in the family tree too, not only on personal pages");
+    AddSwitch(command, given->isPrivate, "--private", "--public", "Hide the item for privacy-protected persons");
     command.add_option("--before", given->beforeItem, "Text or marks before the item");
     command.add_option("--before-place", given->beforePlace, "Text or marks before the place of an event");
     command.add_option("--after", given->afterItem, "Text or marks after the item");
-    command.add_flag("--private,!--public", given->isPrivate,
-                     "Hide the item for privacy-protected persons, or show it");
     return given;
 }
 

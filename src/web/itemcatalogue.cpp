@@ -3,6 +3,7 @@
 #include "web/itemcatalogue.h"
 
 #include "base/error.h"
+#include "base/pattern.h"
 
 namespace stemwright
 {
@@ -39,24 +40,17 @@ std::vector<SelectedItem> FixedItems()
             Item(QStringLiteral("Death"), QStringLiteral("DEAT"), datedEvent, individuals)};
 }
 
-/// The relation to father or mother, which matches "_[FM]REL".
-bool IsPedigreeRelation(const QString& fact)
-{
-    return fact.compare(QStringLiteral("_FREL"), Qt::CaseInsensitive) == 0 ||
-           fact.compare(QStringLiteral("_MREL"), Qt::CaseInsensitive) == 0;
-}
-
+/// The relations to father and mother stand with the child's link to its family.
 SelectedItem IndividualFact(const QString& label, const QString& fact)
 {
-    return IsPedigreeRelation(fact) ? Item(label, fact, relationship, childLinks)
-                                    : Item(label, fact, datedEvent, individuals);
+    return MatchesPattern(fact, u"_[FM]REL") ? Item(label, fact, relationship, childLinks)
+                                             : Item(label, fact, datedEvent, individuals);
 }
 
-/// The facts about a partnership's beginning and end, which match "_M*", have no date and place of their own.
+/// The facts about a partnership's beginning and end have no date and place of their own.
 SelectedItem FamilyFact(const QString& label, const QString& fact)
 {
-    const bool isStatus = fact.startsWith(QStringLiteral("_M"), Qt::CaseInsensitive);
-    return Item(label, fact, isStatus ? relationship : datedEvent, families);
+    return Item(label, fact, MatchesPattern(fact, u"_M*") ? relationship : datedEvent, families);
 }
 
 void AppendFacts(std::vector<SelectedItem>& items, Connection& connection, const QString& table,

@@ -3,22 +3,12 @@
 #include "web/setup.h"
 
 #include "base/error.h"
+#include "base/text.h"
 
 #include <utility>
 
 namespace stemwright
 {
-
-bool IsSameSetupName(QStringView left, QStringView right)
-{
-    const auto significant = [](QStringView name) {
-        while (name.endsWith(u' ')) {
-            name.chop(1);
-        }
-        return name;
-    };
-    return significant(left).compare(significant(right), Qt::CaseInsensitive) == 0;
-}
 
 QString NameInSql(QString name)
 {
@@ -29,7 +19,7 @@ std::optional<SetupRow> FindSetup(Connection& connection, const QString& name)
 {
     Statement statement = connection.prepare(QStringLiteral("SELECT SetupName, rowid FROM WebSiteInfo ORDER BY rowid"));
     while (statement.step()) {
-        if (QString stored = statement.text(0); IsSameSetupName(stored, name)) {
+        if (QString stored = statement.text(0); SameName(stored, name)) {
             return SetupRow{std::move(stored), statement.integer64(1)};
         }
     }
@@ -51,7 +41,7 @@ std::vector<TreeDefinition> LoadTreeDefinitions(Connection& connection, const QS
                                           " SetupName FROM TreeHeads ORDER BY TreeNumber"));
     std::vector<TreeDefinition> trees;
     while (statement.step()) {
-        if (IsSameSetupName(statement.text(5), setupName)) {
+        if (SameName(statement.text(5), setupName)) {
             trees.push_back({statement.integer(4), statement.optionalInteger(2), statement.text(0), statement.text(1),
                              statement.integer(3)});
         }
@@ -65,7 +55,7 @@ std::vector<SelectedItem> LoadSelectedItems(Connection& connection, const QStrin
         connection.prepare(QStringLiteral("SELECT ItemValue, SetupName FROM SelectedItems ORDER BY rowid"));
     std::vector<SelectedItem> items;
     while (statement.step()) {
-        if (IsSameSetupName(statement.text(1), setupName)) {
+        if (SameName(statement.text(1), setupName)) {
             items.push_back(SelectedItem::fromRecord(statement.text(0)));
         }
     }

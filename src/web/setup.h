@@ -59,13 +59,10 @@ struct SetupRow {
     qint64 row = 0;
 };
 
-/// Whether two texts name the same setup: case and blanks at the end do not count.
-bool IsSameSetupName(QStringView left, QStringView right);
-
 /// The name as it stands between the single quotes of a statement's text, its own quotes doubled.
 QString NameInSql(QString name);
 
-/// Looks a setup up by its name; no value when there is none.
+/// Looks a setup up by its name, in which case and blanks at the end do not count; no value when there is none.
 std::optional<SetupRow> FindSetup(Connection& connection, const QString& name);
 
 /// The same, for a setup that must be there. Throws Error when it is not.

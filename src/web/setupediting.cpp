@@ -64,7 +64,8 @@ void SetupEditing::storeEmblem(const QString& path)
     const QString suffix = QFileInfo(path).suffix();
     Transaction transaction(m_connection);
     LoadFileIntoField(m_connection, path, {QStringLiteral("WebSiteInfo"), QStringLiteral("EmblemPicture"), m_row.row});
-    set(QStringLiteral("EmblemFiletype"), suffix.isEmpty() ? type.preferredSuffix() : suffix);
+    const bool fits = type.suffixes().contains(suffix, Qt::CaseInsensitive);
+    set(QStringLiteral("EmblemFiletype"), fits ? suffix : type.preferredSuffix());
     transaction.commit();
 }
 

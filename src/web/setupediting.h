@@ -23,7 +23,7 @@ public:
     Setup setup() const;
 
     /// Sets a column of the setup from what was typed (setupcolumns.h). An image is read from the file with that path,
-    /// whose extension becomes the file type; an empty path removes the image.
+    /// whose extension becomes the file type (or the usual one of its kind); an empty path removes the image.
     void set(const QString& columnName, const QString& typed);
     /// The value of a column in the form in which set() takes it; an image is described by its size.
     QString settingText(const SetupColumn& column) const;
