@@ -130,8 +130,9 @@ void ItemSelection::setOptions(int row, const ItemOptions& options)
 void ItemSelection::save()
 {
     Transaction transaction(m_connection);
-    m_connection.executeJet(QStringLiteral("DELETE FROM SelectedItems WHERE SetupName = '") + NameInSql(m_setup.name) +
-                            u'\'');
+    Statement erase = m_connection.prepare(
+        QStringLiteral("DELETE FROM SelectedItems WHERE rtrim(SetupName) = rtrim(?1) COLLATE NOCASE"));
+    erase.bind(1, m_setup.name).run();
     Statement statement =
         m_connection.prepare(QStringLiteral("INSERT INTO SelectedItems (SetupName, ItemValue) VALUES (?1, ?2)"));
     for (const SelectedItem& item : m_items) {
