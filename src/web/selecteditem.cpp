@@ -7,6 +7,19 @@
 namespace stemwright
 {
 
+namespace
+{
+
+/// A field as it can stand in a record: a TAB or a line break typed into it would end the field or the record.
+QString Field(QString text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](QChar character) { return character < u' '; }, u' ');
+    return text;
+}
+
+} // namespace
+
 SelectedItem SelectedItem::fromRecord(const QString& record)
 {
     const QStringList fields = record.split(u'\t');
@@ -18,9 +31,10 @@ SelectedItem SelectedItem::fromRecord(const QString& record)
 
 QString SelectedItem::toRecord() const
 {
-    return QStringList{name,       source,      kind,      inTree ? QStringLiteral("Yes") : QString(),
-                       beforeItem, beforePlace, afterItem, isPrivate ? QStringLiteral("P") : QString(),
-                       table}
+    const QString tree = inTree ? QStringLiteral("Yes") : QString();
+    const QString privacy = isPrivate ? QStringLiteral("P") : QString();
+    return QStringList{Field(name),        Field(source),    kind,    tree, Field(beforeItem),
+                       Field(beforePlace), Field(afterItem), privacy, table}
         .join(u'\t');
 }
 

@@ -27,6 +27,7 @@ struct SelectedItem {
 
     /// Reads a stored record; missing fields are empty.
     static SelectedItem fromRecord(const QString& record);
+    /// The record to store; a TAB or line break within a field becomes a blank.
     QString toRecord() const;
 
     friend bool operator==(const SelectedItem&, const SelectedItem&) = default;

@@ -2,45 +2,77 @@
 // SPDX-License-Identifier: MIT
 #include "web/setup.h"
 
+#include "base/error.h"
+#include "base/text.h"
+
+#include <utility>
+
 namespace stemwright
 {
 
+QString NameInSql(QString name)
+{
+    return name.replace(u'\'', QStringLiteral("''"));
+}
+
+std::optional<SetupRow> FindSetup(Connection& connection, const QString& name)
+{
+    Statement statement = connection.prepare(QStringLiteral("SELECT SetupName, rowid FROM WebSiteInfo ORDER BY rowid"));
+    while (statement.step()) {
+        if (QString stored = statement.text(0); SameName(stored, name)) {
+            return SetupRow{std::move(stored), statement.integer64(1)};
+        }
+    }
+    return std::nullopt;
+}
+
+SetupRow RequireSetup(Connection& connection, const QString& name)
+{
+    if (std::optional<SetupRow> found = FindSetup(connection, name)) {
+        return *std::move(found);
+    }
+    throw Error(QStringLiteral("There is no web site setup named \"%1\".").arg(name));
+}
+
 std::vector<TreeDefinition> LoadTreeDefinitions(Connection& connection, const QString& setupName)
 {
-    Statement statement = connection.prepare(
-        QStringLiteral("SELECT TreeHeadName, GenDisplayType, TreeHeadId, IconNo, TreeNumber FROM TreeHeads"
-                       " WHERE rtrim(SetupName) = rtrim(?1) COLLATE NOCASE ORDER BY TreeNumber"));
-    statement.bind(1, setupName);
+    Statement statement =
+        connection.prepare(QStringLiteral("SELECT TreeHeadName, GenDisplayType, TreeHeadId, IconNo, TreeNumber,"
+                                          " SetupName FROM TreeHeads ORDER BY TreeNumber"));
     std::vector<TreeDefinition> trees;
     while (statement.step()) {
-        trees.push_back({statement.integer(4), statement.optionalInteger(2), statement.text(0), statement.text(1),
-                         statement.integer(3)});
+        if (SameName(statement.text(5), setupName)) {
+            trees.push_back({statement.integer(4), statement.optionalInteger(2), statement.text(0), statement.text(1),
+                             statement.integer(3)});
+        }
     }
     return trees;
 }
 
 std::vector<SelectedItem> LoadSelectedItems(Connection& connection, const QString& setupName)
 {
-    Statement statement = connection.prepare(QStringLiteral(
-        "SELECT ItemValue FROM SelectedItems WHERE rtrim(SetupName) = rtrim(?1) COLLATE NOCASE ORDER BY rowid"));
-    statement.bind(1, setupName);
+    Statement statement =
+        connection.prepare(QStringLiteral("SELECT ItemValue, SetupName FROM SelectedItems ORDER BY rowid"));
     std::vector<SelectedItem> items;
     while (statement.step()) {
-        items.push_back(SelectedItem::fromRecord(statement.text(0)));
+        if (SameName(statement.text(1), setupName)) {
+            items.push_back(SelectedItem::fromRecord(statement.text(0)));
+        }
     }
     return items;
 }
 
 std::optional<Setup> LoadSetup(Connection& connection, const QString& name)
 {
+    const std::optional<SetupRow> found = FindSetup(connection, name);
+    if (!found) {
+        return std::nullopt;
+    }
     Statement statement = connection.prepare(QStringLiteral(
         "SELECT SetupName, SiteTitle, TitleStory, HomePageName, Standalone, PersPages, PageStyle, CellFg,"
         " CellBg, MaxGenOnPage, MaxTotalGens, MaxPrivacyAge, HideLiving, WebPageFolder,"
-        " Pictures4ThisTreeOnly, EmblemFiletype, rowid"
-        " FROM WebSiteInfo WHERE SetupName = ?1 COLLATE NOCASE"));
-    if (!statement.bind(1, name).step()) {
-        return std::nullopt;
-    }
+        " Pictures4ThisTreeOnly, EmblemFiletype FROM WebSiteInfo WHERE rowid = ?1"));
+    statement.bind(1, found->row).step();
     Setup setup;
     setup.name = statement.text(0);
     setup.siteTitle = statement.text(1);
@@ -58,7 +90,7 @@ std::optional<Setup> LoadSetup(Connection& connection, const QString& name)
     setup.folder = statement.text(13);
     setup.picturesForThisTreeOnly = statement.integer(14) != 0;
     setup.emblemFileType = statement.text(15);
-    setup.row = statement.integer64(16);
+    setup.row = found->row;
     setup.trees = LoadTreeDefinitions(connection, setup.name);
     setup.items = LoadSelectedItems(connection, setup.name);
     return setup;

@@ -53,7 +53,22 @@ struct Setup {
     std::vector<SelectedItem> items;
 };
 
-/// Reads the setup with this name (compared without regard to case); no value when there is none.
+/// Where a setup stands in WebSiteInfo, and its name as stored there.
+struct SetupRow {
+    QString name;
+    qint64 row = 0;
+};
+
+/// The name as it stands between the single quotes of a statement's text, its own quotes doubled.
+QString NameInSql(QString name);
+
+/// Looks a setup up by its name, in which case and blanks at the end do not count; no value when there is none.
+std::optional<SetupRow> FindSetup(Connection& connection, const QString& name);
+
+/// The same, for a setup that must be there. Throws Error when it is not.
+SetupRow RequireSetup(Connection& connection, const QString& name);
+
+/// Reads the setup with this name; no value when there is none.
 std::optional<Setup> LoadSetup(Connection& connection, const QString& name);
 
 /// The tree definitions of a setup in their order. Rows whose stored name has blanks at its end belong to it as well.

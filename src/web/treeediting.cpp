@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/treeediting.h"
+
+#include "base/error.h"
+#include "store/engine/schema.h"
+#include "web/setupmessages.h"
+
+#include <QtCore/QFileInfo>
+
+#include <utility>
+
+namespace stemwright
+{
+
+namespace
+{
+
+/// An individual's name as the index of names shows it, cut to what a text column holds. Throws Error when there is no
+/// such individual.
+QString HeadName(Connection& connection, int individualId)
+{
+    Statement statement = connection.prepare(
+        QStringLiteral("SELECT coalesce(Surname, '') || ', ' || coalesce(Title, '') || ' ' || coalesce(GivenName, '')"
+                       " || ' ' || coalesce(Suffix, '') FROM Indi WHERE Id = ?1"));
+    if (!statement.bind(1, individualId).step()) {
+        throw Error(QStringLiteral("The family tree has no individual with number %1.").arg(individualId));
+    }
+    QString name = statement.text(0).left(maxTextLength);
+    if (name.back().isHighSurrogate()) {
+        name.chop(1);
+    }
+    return name;
+}
+
+bool HasIndividuals(Connection& connection)
+{
+    return connection.prepare(QStringLiteral("SELECT 1 FROM Indi LIMIT 1")).step();
+}
+
+} // namespace
+
+const QStringList& TreeDisplays()
+{
+    static const QStringList displays = {QStringLiteral("Outline"), QStringLiteral("Descendant Tree"),
+                                         QStringLiteral("CollapsiTree")};
+    return displays;
+}
+
+TreeEditing::TreeEditing(Connection& connection, Environment& environment, QString setupName)
+    : m_connection(connection), m_environment(environment), m_setupName(std::move(setupName))
+{
+}
+
+std::vector<TreeDefinition> TreeEditing::definitions() const
+{
+    return LoadTreeDefinitions(m_connection, m_setupName);
+}
+
+TreeDefinition TreeEditing::definition(int number) const
+{
+    const std::vector<TreeDefinition> trees = definitions();
+    const auto found = std::find_if(trees.begin(), trees.end(),
+                                    [number](const TreeDefinition& tree) { return tree.number == number; });
+    if (found == trees.end()) {
+        throw Error(QStringLiteral("Setup \"%1\" has no tree with number %2.").arg(m_setupName).arg(number));
+    }
+    return *found;
+}
+
+TreeDefinition& TreeEditing::taken()
+{
+    if (!m_edited) {
+        throw Error(QStringLiteral("No tree definition is being edited."));
+    }
+    return *m_edited;
+}
+
+void TreeEditing::take(TreeDefinition definition)
+{
+    if (m_edited) {
+        store();
+    }
+    m_edited = std::move(definition);
+}
+
+void TreeEditing::add()
+{
+    Statement statement = m_connection.prepare(
+        QStringLiteral("INSERT INTO TreeHeads (SetupName, GenDisplayType, IconNo) VALUES (?1, 'Outline', 1)"));
+    statement.bind(1, m_setupName).run();
+    edit(static_cast<int>(m_connection.lastInsertId()));
+}
+
+void TreeEditing::addOrFillFirst()
+{
+    const std::vector<TreeDefinition> trees = definitions();
+    if (trees.size() == 1 && !trees.front().headId) {
+        take(trees.front());
+    } else {
+        add();
+    }
+}
+
+void TreeEditing::edit(int number)
+{
+    take(definition(number));
+}
+
+void TreeEditing::setDisplay(const QString& display)
+{
+    for (const QString& known : TreeDisplays()) {
+        if (known.compare(display, Qt::CaseInsensitive) == 0) {
+            taken().display = known;
+            return;
+        }
+    }
+    throw Error(QStringLiteral("There is no tree display \"%1\"; choose one of %2.")
+                    .arg(display, TreeDisplays().join(QStringLiteral(", "))));
+}
+
+void TreeEditing::setIcon(int icon)
+{
+    const QString file = QStringLiteral("graphics/icons_tree_%1.gif").arg(icon, 2, 10, QChar(u'0'));
+    if (icon < 1 || !QFileInfo::exists(m_environment.application.file(file))) {
+        throw Error(QStringLiteral("There is no tree icon with number %1.").arg(icon));
+    }
+    taken().icon = icon;
+}
+
+bool TreeEditing::setHead(int individualId)
+{
+    if (!HasIndividuals(m_connection)) {
+        m_environment.talk.tell(setupmessages::NoNameIndex());
+        return false;
+    }
+    taken().headName = HeadName(m_connection, individualId);
+    taken().headId = individualId;
+    return true;
+}
+
+void TreeEditing::store()
+{
+    Statement statement =
+        m_connection.prepare(QStringLiteral("UPDATE TreeHeads SET TreeHeadId = ?1, TreeHeadName = ?2,"
+                                            " GenDisplayType = ?3, IconNo = ?4 WHERE TreeNumber = ?5"));
+    const TreeDefinition& tree = taken();
+    statement.bind(1, tree.headId).bind(2, tree.headName).bind(3, tree.display).bind(4, tree.icon).bind(5, tree.number);
+    statement.run();
+}
+
+bool TreeEditing::apply()
+{
+    store();
+    if (!taken().headId) {
+        m_environment.talk.tell(setupmessages::NoTreeHeadYet());
+        return false;
+    }
+    m_edited.reset();
+    return true;
+}
+
+bool TreeEditing::remove(int number)
+{
+    const TreeDefinition doomed = definition(number);
+    if (definitions().size() == 1) {
+        m_environment.talk.tell(setupmessages::LastTreeDefinition());
+        return false;
+    }
+    if (m_environment.talk.ask(setupmessages::DeletingFamilyTree()) != Button::Yes) {
+        return false;
+    }
+    Statement statement = m_connection.prepare(QStringLiteral("DELETE FROM TreeHeads WHERE TreeNumber = ?1"));
+    statement.bind(1, doomed.number).run();
+    if (m_edited && m_edited->number == doomed.number) {
+        m_edited.reset();
+    }
+    return true;
+}
+
+} // namespace stemwright

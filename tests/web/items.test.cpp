@@ -1,0 +1,166 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/itemcatalogue.h"
+#include "web/itemselection.h"
+#include "web/setupmanager.h"
+#include "web/setupworld.h"
+
+#include <gtest/gtest.h>
+
+namespace stemwright::test
+{
+
+namespace
+{
+
+const QString setupName = QStringLiteral("Default");
+
+/// A family tree with facts of every kind, two of which share their label.
+class ItemWorld : public SetupWorld
+{
+public:
+    ItemWorld()
+    {
+        execute(
+            "INSERT INTO SchemaIndi (Fact, Tag, Label) VALUES ('_FA1', 'BURI', 'Burial'), ('_FREL', NULL, 'Father'),"
+            " ('_mrel', NULL, 'Mother'), ('_XREL', NULL, NULL)");
+        execute("INSERT INTO SchemaFam (Fact, Tag, Label) VALUES ('_FA1', NULL, 'Burial'), ('_MSTAT', NULL, 'Status')");
+    }
+
+    QStringList records()
+    {
+        return column(QStringLiteral("SELECT replace(ItemValue, char(9), '|') FROM SelectedItems"
+                                     " WHERE rtrim(SetupName) = 'Default' ORDER BY rowid"));
+    }
+
+    SelectedItem item(const char* name) { return CatalogueItemNamed(connection(), QString::fromLatin1(name)); }
+};
+
+} // namespace
+
+TEST(SelectedItem, RecordsKeepTheirNineFields)
+{
+    const QString record = QStringLiteral("Birth\tBIRT\tdp\tYes\t\"\t in \t;\tP\tIndi");
+    SelectedItem item = SelectedItem::fromRecord(record);
+    EXPECT_EQ(item.beforePlace, QStringLiteral(" in "));
+    EXPECT_TRUE(item.inTree && item.isPrivate);
+    EXPECT_EQ(item.toRecord(), record);
+    item.afterItem = QStringLiteral("a\tb\r\nc");
+    EXPECT_EQ(item.toRecord().count(u'\t'), 8);
+    EXPECT_EQ(SelectedItem::fromRecord(item.toRecord()).table, QStringLiteral("Indi"));
+    EXPECT_EQ(SelectedItem::fromRecord(QStringLiteral("Title\tTitle")).table, QString());
+}
+
+TEST(ItemCatalogue, ListsFixedItemsThenTheFactsOfTheTree)
+{
+    ItemWorld world;
+    QStringList listed;
+    for (const SelectedItem& item : LoadItemCatalogue(world.connection())) {
+        listed << QStringList{item.name, item.source, item.kind, item.table}.join(u'|');
+        EXPECT_FALSE(item.inTree);
+    }
+    EXPECT_EQ(listed.mid(0, 8).join(u','),
+              QStringLiteral("Title|Title|n|Indi,Given name|GivenName|n|Indi,Surname|Surname|n|Indi,"
+                             "Suffix|Suffix|n|Indi,Alias|Alias|n|Indi,Birth|BIRT|dp|Indi,"
+                             "Marriage|Marriage|dp|Fam,Death|DEAT|dp|Indi"));
+    EXPECT_EQ(listed.mid(8).join(u','),
+              QStringLiteral("Burial|_FA1|dp|Indi,Father|_FREL|r|Fam2Child,Mother|_mrel|r|Fam2Child,"
+                             "_XREL|_XREL|dp|Indi,Burial|_FA1|dp|Fam,Status|_MSTAT|r|Fam"));
+
+    EXPECT_EQ(world.item("given NAME").source, QStringLiteral("GivenName"));
+    EXPECT_EQ(world.item("fam._fa1").table, QStringLiteral("Fam"));
+    EXPECT_TRUE(ErrorOf([&] { world.item("burial"); }).contains(QStringLiteral("Indi._FA1 or Fam._FA1")));
+    EXPECT_FALSE(ErrorOf([&] { world.item("Baptism"); }).isEmpty());
+}
+
+TEST(ItemSelection, AddingMovingAndRemovingAreWrittenBackInOrder)
+{
+    ItemWorld world;
+    const QStringList before = world.records();
+    ItemSelection selection(world.connection(), world.talk, setupName);
+    EXPECT_TRUE(selection.add(world.item("Birth")));
+    EXPECT_TRUE(selection.add(world.item("Indi._FA1")));
+    EXPECT_TRUE(selection.add(world.item("Fam._FA1"))) << "the same slot of another table is another item";
+    world.talk.expect(QStringLiteral("Items to Include"));
+    EXPECT_FALSE(selection.add(world.item("Alias")));
+    EXPECT_EQ(selection.items().size(), 8U);
+    EXPECT_EQ(selection.moveUp(5), 4);
+    EXPECT_EQ(selection.moveDown(0), 1);
+    selection.remove(7);
+    EXPECT_EQ(world.records(), before) << "nothing is written before OK";
+    selection.save();
+    const QStringList expected = {before[1],
+                                  before[0],
+                                  before[2],
+                                  before[3],
+                                  QStringLiteral("Birth|BIRT|dp||||||Indi"),
+                                  before[4],
+                                  QStringLiteral("Burial|_FA1|dp||||||Indi")};
+    EXPECT_EQ(world.records(), expected);
+
+    EXPECT_FALSE(selection.canMoveUp(0));
+    EXPECT_FALSE(selection.canMoveDown(6));
+    for (const auto& impossible :
+         std::vector<std::function<void()>>{[&] { selection.moveUp(0); }, [&] { selection.moveDown(6); },
+                                            [&] { selection.moveUp(7); }, [&] { selection.remove(-1); }}) {
+        EXPECT_FALSE(ErrorOf(impossible).isEmpty());
+    }
+    selection.save();
+    EXPECT_EQ(world.records(), expected);
+}
+
+TEST(ItemSelection, OptionsChangeOnlyWhatTheyPermit)
+{
+    struct Case {
+        int row;
+        ItemOptions options;
+        QString record;
+    };
+
+    const QString before = QStringLiteral("\"");
+    const QString place = QStringLiteral(" in ");
+    const std::vector<Case> cases = {
+        {0, {true, before, {}, before, true}, QStringLiteral("Title|Title|n|Yes|\"||\"|P|Indi")},
+        {0, {true, before, place, before, true}, QString()},
+        {0, {false, before, {}, {}, false}, QString()},
+        {0, {false, {}, {}, {}, true}, QStringLiteral("Title|Title|n|||||P|Indi")},
+        {5, {false, {}, place, {}, false}, QString()},
+        {5, {true, {}, place, {}, false}, QStringLiteral("Birth|BIRT|dp|Yes|| in |||Indi")},
+        {5, {true, QString(250, u'x'), {}, {}, false}, QString()},
+    };
+    for (const Case& change : cases) {
+        ItemWorld world;
+        ItemSelection selection(world.connection(), world.talk, setupName);
+        selection.add(world.item("Birth"));
+        const QString error = ErrorOf([&] { selection.setOptions(change.row, change.options); });
+        EXPECT_EQ(error.isEmpty(), !change.record.isEmpty()) << error.toStdString();
+        selection.save();
+        if (!change.record.isEmpty()) {
+            EXPECT_EQ(world.records()[change.row], change.record);
+        }
+    }
+}
+
+TEST(ItemSelection, TextsOutlastAnItemThatLeavesTheTree)
+{
+    ItemWorld world;
+    ItemSelection selection(world.connection(), world.talk, setupName);
+    selection.setOptions(4, {true, QStringLiteral("'"), {}, QStringLiteral("'"), false});
+    ItemOptions hidden = ItemOptions::of(selection.items()[4]);
+    hidden.inTree = false;
+    selection.setOptions(4, hidden);
+    EXPECT_EQ(selection.items()[4].beforeItem, QStringLiteral("'"));
+}
+
+TEST(ItemSelection, ReplacesTheItemsOfARenamedSetup)
+{
+    ItemWorld world;
+    SetupManager manager(world.connection(), world.own);
+    ASSERT_TRUE(manager.rename(setupName, QStringLiteral("Ann's")));
+    ItemSelection selection(world.connection(), world.talk, QStringLiteral("Ann's"));
+    selection.remove(0);
+    selection.save();
+    EXPECT_EQ(world.connection().countRows(QStringLiteral("SelectedItems")), 4);
+}
+
+} // namespace stemwright::test
