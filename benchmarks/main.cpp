@@ -5,7 +5,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include <cstdio>
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
@@ -35,7 +35,7 @@ const std::vector<Work>& AllWork()
 
 struct Options {
     Bench bench;
-    std::vector<std::uint32_t> sizes{1'000, 10'000, 100'000, 1'000'000};
+    std::vector<std::uint32_t> sizes;
     std::string only;
     bool quick = false;
 };
@@ -52,6 +52,21 @@ void DescribeOptions(CLI::App& app, Options& options)
     app.add_option("--programs", options.bench.programs, "Folder of the built programs")->required();
     app.add_option("--memory", options.bench.memory, "Folder on a tmpfs to write to")->required();
     app.add_option("--disk", options.bench.disk, "Folder on a disk, for packed sites")->required();
+}
+
+/// Settles what was not asked for.
+void FillIn(Options& options)
+{
+    if (options.sizes.empty()) {
+        options.sizes = {1'000, 10'000};
+        if (!options.quick) {
+            options.sizes.insert(options.sizes.end(), {100'000, 1'000'000});
+        }
+    }
+    std::sort(options.sizes.begin(), options.sizes.end());
+    if (options.bench.secondsPerPair <= 0) {
+        options.bench.secondsPerPair = options.quick ? 3 : 40;
+    }
 }
 
 /// What is missing to measure a size; empty when nothing is.
@@ -89,13 +104,7 @@ int main(int argc, char** argv)
     CLI::App app("Measures Stemwright against the limits of the machine.", "stemwright-bench");
     DescribeOptions(app, options);
     CLI11_PARSE(app, argc, argv);
-    if (options.quick) {
-        options.sizes = {1'000, 10'000};
-    }
-    if (options.bench.secondsPerPair <= 0) {
-        options.bench.secondsPerPair = options.quick ? 3 : 40;
-    }
-    std::sort(options.sizes.begin(), options.sizes.end());
+    FillIn(options);
     try {
         // The measured programs must neither see nor change the settings of whoever measures.
         const WorkFolder settings(options.bench.memory);
