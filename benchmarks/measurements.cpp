@@ -98,6 +98,9 @@ void PrepareFamilyFile(const Stage& stage, std::uint32_t individuals, const std:
     stage.stemwright({"new", file});
     stage.stemwright({"import", file, tree});
     stage.stemwright({"setup", "set", file, "Default", "PersPages=1"});
+    for (const char* item : {"Birth", "Christening", "Marriage", "Occupation", "Residence", "Death", "Burial"}) {
+        stage.stemwright({"setup", "items", file, "Default", "add", item});
+    }
     fs::remove(tree);
 }
 
