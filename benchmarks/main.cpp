@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "measurements.h"
+#include "workfolder.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+
+/// stemwright-bench: measures the pairs at every size and prints one table. ./bench in the project's root builds and
+/// starts it.
+namespace
+{
+
+using namespace stemwright::bench;
+
+/// A kind of work that can be measured.
+struct Work {
+    std::string name;
+    PairResult (*measure)(const Bench&, std::uint32_t);
+    Goals goals;
+};
+
+const std::vector<Work>& AllWork()
+{
+    static const std::vector<Work> work = {
+        {"import", MeasureImport, {2.5, 1.25, 40'000'000, 100}},
+        {"publish", MeasurePublishing, {2.5, 1.25, 60'000'000, 2'000}},
+    };
+    return work;
+}
+
+struct Options {
+    Bench bench;
+    std::vector<std::uint32_t> sizes;
+    std::string only;
+    bool quick = false;
+};
+
+void DescribeOptions(CLI::App& app, Options& options)
+{
+    app.add_option("--sizes", options.sizes, "Numbers of individuals, separated by commas")
+        ->delimiter(',')
+        ->check(CLI::Range(100, 10'000'000));
+    app.add_option("--only", options.only, "Measure only one kind of work")
+        ->check(CLI::IsMember({"import", "publish"}));
+    app.add_flag("--quick", options.quick, "Sizes 1,000 and 10,000 and few rounds: a look, not a judgement");
+    app.add_option("--seconds", options.bench.secondsPerPair, "Time for the rounds of one pair, 40 if not given");
+    app.add_option("--programs", options.bench.programs, "Folder of the built programs")->required();
+    app.add_option("--memory", options.bench.memory, "Folder on a tmpfs to write to")->required();
+    app.add_option("--disk", options.bench.disk, "Folder on a disk, for packed sites")->required();
+}
+
+/// Settles what was not asked for.
+void FillIn(Options& options)
+{
+    if (options.sizes.empty()) {
+        options.sizes = {1'000, 10'000};
+        if (!options.quick) {
+            options.sizes.insert(options.sizes.end(), {100'000, 1'000'000});
+        }
+    }
+    std::sort(options.sizes.begin(), options.sizes.end());
+    if (options.bench.secondsPerPair <= 0) {
+        options.bench.secondsPerPair = options.quick ? 3 : 40;
+    }
+}
+
+/// What is missing to measure a size; empty when nothing is.
+std::string Shortage(const Bench& bench, std::uint32_t individuals)
+{
+    const std::uint64_t needed = BytesNeeded(individuals);
+    const std::uint64_t free = FreeBytes(bench.memory);
+    if (needed <= free) {
+        return {};
+    }
+    return "needs " + std::to_string(needed / 1'000'000) + " MB of memory in " + bench.memory + ", " +
+           std::to_string(free / 1'000'000) + " MB are free";
+}
+
+void Measure(const Work& work, const Options& options, Table& table)
+{
+    std::vector<PairResult> results;
+    for (const std::uint32_t individuals : options.sizes) {
+        const std::string shortage = Shortage(options.bench, individuals);
+        if (!shortage.empty()) {
+            table.addUnmeasured(work.name, individuals, shortage);
+            continue;
+        }
+        std::cerr << "Measuring: " << work.name << ", " << individuals << " individuals\n";
+        results.push_back(work.measure(options.bench, individuals));
+    }
+    table.addResults(work.name, results, work.goals);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    Options options;
+    CLI::App app("Measures Stemwright against the limits of the machine.", "stemwright-bench");
+    DescribeOptions(app, options);
+    CLI11_PARSE(app, argc, argv);
+    FillIn(options);
+    try {
+        // The measured programs must neither see nor change the settings of whoever measures.
+        const WorkFolder settings(options.bench.memory);
+        setenv("XDG_CONFIG_HOME", settings.path("").c_str(), 1);
+        Table table;
+        for (const Work& work : AllWork()) {
+            if (options.only.empty() || options.only == work.name) {
+                Measure(work, options, table);
+            }
+        }
+        std::cout << table.text();
+        return 0;
+    } catch (const std::exception& exception) {
+        std::cerr << "stemwright-bench: " << exception.what() << '\n';
+        return 1;
+    }
+}
