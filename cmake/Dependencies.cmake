@@ -8,7 +8,10 @@ find_package(SQLite3 REQUIRED)
 find_package(CLI11 REQUIRED)
 find_package(GTest REQUIRED)
 
+# The cache takes files with precompiled headers only when it is told that their macros and times do not matter, and it
+# finds what another checkout compiled only when paths below the source folder are taken as relative.
 find_program(CCACHE ccache)
 if(CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+    CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE})
 endif()

@@ -54,6 +54,9 @@ endfunction()
 
 # One precompiled set of the headers that nearly every file needs; targets without Qt do not take it.
 function(use_precompiled_headers TARGET)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${TARGET} PRIVATE -fpch-preprocess)
+  endif()
   target_precompile_headers(${TARGET} PRIVATE
     <QtCore/QByteArray> <QtCore/QDateTime> <QtCore/QString> <QtCore/QStringList>
     <algorithm> <cstdint> <functional> <memory> <optional> <string> <string_view> <vector>)

@@ -121,7 +121,7 @@ void TreeEditing::setDisplay(const QString& display)
 
 void TreeEditing::setIcon(int icon)
 {
-    const QString file = QStringLiteral("graphics/icons_tree_%1.gif").arg(icon, 2, 10, QChar(u'0'));
+    const QString file = QStringLiteral("graphics/icons_tree_%1.gif").arg(icon - 1, 2, 10, QChar(u'0'));
     if (icon < 1 || !QFileInfo::exists(m_environment.application.file(file))) {
         throw Error(QStringLiteral("There is no tree icon with number %1.").arg(icon));
     }

@@ -12,7 +12,7 @@ SetupWorld::SetupWorld()
 {
     QDir().mkpath(ownApplication.file(QStringLiteral("graphics")));
     write(QStringLiteral("application/graphics/tree.gif"), "GIF89a emblem");
-    for (const char* number : {"01", "02", "10"}) {
+    for (const char* number : {"00", "01", "09"}) {
         write(QStringLiteral("application/graphics/icons_tree_%1.gif").arg(QString::fromLatin1(number)), "GIF89a");
     }
     CreateFamilyFile(file, path(QStringLiteral("Family.kvf")), own);
