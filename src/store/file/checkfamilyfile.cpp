@@ -21,24 +21,24 @@ struct Link {
     const char* target;
     const char* targetColumn;
     Severity severity;
-    /// What the table's rows are and what they name, for the report.
+    /// What is wrong with a value that names no row, for the report.
     const char* meaning;
 };
 
 constexpr std::array<Link, 13> links = {{
-    {"Pic2Person", "PicId", "AlbumTOC", "PicId", Severity::Fault, "marks stand on a picture that is gone"},
-    {"TreeHeads", "SetupName", "WebSiteInfo", "SetupName", Severity::Fault, "trees belong to a setup that is gone"},
-    {"SelectedItems", "SetupName", "WebSiteInfo", "SetupName", Severity::Fault, "items belong to a setup that is gone"},
-    {"Pic2Person", "PersId", "Indi", "Id", Severity::Note, "marks name an individual who is not in the tree"},
-    {"TreeHeads", "TreeHeadId", "Indi", "Id", Severity::Note, "trees have a head who is not in the tree"},
-    {"WebAddr", "Id", "Indi", "Id", Severity::Note, "contacts belong to an individual who is not in the tree"},
-    {"Indi", "FAMC", "Fam", "Id", Severity::Note, "individuals are children of a family that is not in the tree"},
-    {"Fam", "HusbandId", "Indi", "Id", Severity::Note, "families have a husband who is not in the tree"},
-    {"Fam", "WifeId", "Indi", "Id", Severity::Note, "families have a wife who is not in the tree"},
-    {"Fam2Child", "FamId", "Fam", "Id", Severity::Note, "children belong to a family that is not in the tree"},
-    {"Fam2Child", "ChildId", "Indi", "Id", Severity::Note, "families have a child who is not in the tree"},
-    {"Spouse2Fam", "SpouseId", "Indi", "Id", Severity::Note, "families have a spouse who is not in the tree"},
-    {"Spouse2Fam", "FamId", "Fam", "Id", Severity::Note, "individuals are spouses of a family that is not in the tree"},
+    {"Pic2Person", "PicId", "AlbumTOC", "PicId", Severity::Fault, "Marks stand on a picture that is gone"},
+    {"TreeHeads", "SetupName", "WebSiteInfo", "SetupName", Severity::Fault, "Trees belong to a setup that is gone"},
+    {"SelectedItems", "SetupName", "WebSiteInfo", "SetupName", Severity::Fault, "Items belong to a setup that is gone"},
+    {"Pic2Person", "PersId", "Indi", "Id", Severity::Note, "Marks name an individual who is not in the tree"},
+    {"TreeHeads", "TreeHeadId", "Indi", "Id", Severity::Note, "Trees have a head who is not in the tree"},
+    {"WebAddr", "Id", "Indi", "Id", Severity::Note, "Contacts belong to an individual who is not in the tree"},
+    {"Indi", "FAMC", "Fam", "Id", Severity::Note, "Individuals are children of a family that is not in the tree"},
+    {"Fam", "HusbandId", "Indi", "Id", Severity::Note, "Families have a husband who is not in the tree"},
+    {"Fam", "WifeId", "Indi", "Id", Severity::Note, "Families have a wife who is not in the tree"},
+    {"Fam2Child", "FamId", "Fam", "Id", Severity::Note, "Children belong to a family that is not in the tree"},
+    {"Fam2Child", "ChildId", "Indi", "Id", Severity::Note, "Families have a child who is not in the tree"},
+    {"Spouse2Fam", "SpouseId", "Indi", "Id", Severity::Note, "Families have a spouse who is not in the tree"},
+    {"Spouse2Fam", "FamId", "Fam", "Id", Severity::Note, "Individuals are spouses of a family that is not in the tree"},
 }};
 
 void CheckEngine(Connection& connection, FamilyFileReport& report)
@@ -92,8 +92,8 @@ void CheckLink(Connection& connection, const Link& link, FamilyFileReport& repor
         return;
     }
     QStringList& list = link.severity == Severity::Fault ? report.faults : report.notes;
-    list << QStringLiteral("%1 %2 (%3.%4, for example %5).")
-                .arg(QString::number(statement.integer64(0)), QString::fromLatin1(link.meaning),
+    list << QStringLiteral("%1: %2 (%3.%4, for example %5).")
+                .arg(QString::fromLatin1(link.meaning), QString::number(statement.integer64(0)),
                      QString::fromLatin1(link.table), QString::fromLatin1(link.column), statement.text(1));
 }
 

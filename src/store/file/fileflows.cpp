@@ -16,7 +16,7 @@ namespace
 
 bool MayReplace(const QString& path, Talk& talk)
 {
-    return !QFileInfo::exists(path) || talk.ask(storemessages::ReplaceExisting(path)) == Button::Yes;
+    return !QFileInfo(path).isFile() || talk.ask(storemessages::ReplaceExisting(path)) == Button::Yes;
 }
 
 void Remember(const FamilyFile& file, Settings& settings)
