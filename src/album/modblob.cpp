@@ -3,6 +3,7 @@
 #include "album/modblob.h"
 
 #include "base/error.h"
+#include "store/engine/schema.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -55,9 +56,35 @@ private:
     sqlite3_blob* m_blob = nullptr;
 };
 
+const QString cannotRead = QStringLiteral("Cannot read file %1: %2.");
+const QString cannotWrite = QStringLiteral("Cannot write file %1: %2.");
+
 [[noreturn]] void FailWith(const QString& text, const QFile& file)
 {
     throw Error(text.arg(QDir::toNativeSeparators(file.fileName()), file.errorString()));
+}
+
+ColumnType TypeOf(const BlobField& field)
+{
+    const ColumnDefinition* column = FindColumn(TableNamed(field.table), field.column);
+    return column == nullptr ? ColumnType::Integer : column->type;
+}
+
+bool IsLong(ColumnType type)
+{
+    return type == ColumnType::Binary || type == ColumnType::Memo;
+}
+
+/// What the field holds: no value when it is Null. Throws Error when the row is not there.
+bool HoldsValue(Connection& connection, const BlobField& field)
+{
+    // The engine finds the type of a long value without reading the value.
+    Statement statement = connection.prepare(
+        QStringLiteral("SELECT typeof(\"%2\") <> 'null' FROM \"%1\" WHERE rowid = ?1").arg(field.table, field.column));
+    if (!statement.bind(1, field.row).step()) {
+        throw Error(QStringLiteral("Table %1 has no row %2.").arg(field.table).arg(field.row));
+    }
+    return statement.integer(0) != 0;
 }
 
 /// Gives the field a value of `size` zero bytes, which the copy then overwrites in place.
@@ -65,28 +92,26 @@ void Reserve(Connection& connection, const BlobField& field, int size)
 {
     Statement statement = connection.prepare(
         QStringLiteral("UPDATE \"%1\" SET \"%2\" = zeroblob(?1) WHERE rowid = ?2").arg(field.table, field.column));
-    if (statement.bind(1, size).bind(2, field.row).run() != 1) {
-        throw Error(QStringLiteral("Table %1 has no row %2.").arg(field.table).arg(field.row));
-    }
+    statement.bind(1, size).bind(2, field.row).run();
 }
 
-bool IsNull(Connection& connection, const BlobField& field)
+/// Text cannot be put into place piece by piece: the engine would keep it as bytes.
+void LoadText(Connection& connection, QFile& file, const BlobField& field)
 {
+    const QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        FailWith(cannotRead, file);
+    }
     Statement statement = connection.prepare(
-        QStringLiteral("SELECT 1 FROM \"%1\" WHERE rowid = ?1 AND \"%2\" IS NOT NULL").arg(field.table, field.column));
-    return !statement.bind(1, field.row).step();
+        QStringLiteral("UPDATE \"%1\" SET \"%2\" = ?1 WHERE rowid = ?2").arg(field.table, field.column));
+    statement.bind(1, QString::fromUtf8(content)).bind(2, field.row).run();
 }
 
-} // namespace
-
-void LoadFileIntoField(Connection& connection, const QString& fileName, const BlobField& field)
+void LoadBytes(Connection& connection, QFile& file, const BlobField& field)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        FailWith(QStringLiteral("Cannot read file %1: %2."), file);
-    }
     if (file.size() > std::numeric_limits<int>::max()) {
-        throw Error(QStringLiteral("File %1 is too large for a family file.").arg(QDir::toNativeSeparators(fileName)));
+        throw Error(
+            QStringLiteral("File %1 is too large for a family file.").arg(QDir::toNativeSeparators(file.fileName())));
     }
     const int size = static_cast<int>(file.size());
     Reserve(connection, field, size);
@@ -95,34 +120,62 @@ void LoadFileIntoField(Connection& connection, const QString& fileName, const Bl
     for (int done = 0; done < size;) {
         const int length = static_cast<int>(file.read(buffer.data(), std::min(blobChunkSize, size - done)));
         if (length <= 0) {
-            FailWith(QStringLiteral("Cannot read file %1: %2."), file);
+            FailWith(cannotRead, file);
         }
         blob.write(buffer.data(), length, done);
         done += length;
     }
 }
 
-void SaveFieldToFile(Connection& connection, const BlobField& field, const QString& fileName)
+void SaveBytes(Connection& connection, const BlobField& field, QFile& file)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        FailWith(QStringLiteral("Cannot write file %1: %2."), file);
-    }
-    if (IsNull(connection, field)) {
-        return;
-    }
     IncrementalBlob blob(connection, field, 0);
     std::array<char, blobChunkSize> buffer{};
     for (int done = 0; done < blob.size();) {
         const int length = std::min(blobChunkSize, blob.size() - done);
         blob.read(buffer.data(), length, done);
         if (file.write(buffer.data(), length) != length) {
-            FailWith(QStringLiteral("Cannot write file %1: %2."), file);
+            FailWith(cannotWrite, file);
         }
         done += length;
     }
-    if (!file.flush()) {
-        FailWith(QStringLiteral("Cannot write file %1: %2."), file);
+}
+
+} // namespace
+
+void LoadFileIntoField(Connection& connection, const QString& fileName, const BlobField& field)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly)) {
+        FailWith(cannotRead, file);
+    }
+    HoldsValue(connection, field);
+    const ColumnType type = TypeOf(field);
+    if (type == ColumnType::Binary) {
+        LoadBytes(connection, file, field);
+    } else if (type == ColumnType::Memo) {
+        LoadText(connection, file, field);
+    }
+}
+
+void SaveFieldToFile(Connection& connection, const BlobField& field, const QString& fileName)
+{
+    const bool copies = HoldsValue(connection, field) && IsLong(TypeOf(field));
+    QFile file(fileName);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        FailWith(cannotWrite, file);
+    }
+    try {
+        if (copies) {
+            SaveBytes(connection, field, file);
+        }
+        file.close();
+        if (file.error() != QFileDevice::NoError) {
+            FailWith(cannotWrite, file);
+        }
+    } catch (const std::exception&) {
+        file.remove();
+        throw;
     }
 }
 

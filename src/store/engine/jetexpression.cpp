@@ -38,6 +38,9 @@ const ColumnDefinition* FindColumn(const Source& source, const QString& column)
     return table == nullptr ? nullptr : FindColumn(*table, column);
 }
 
+/// Brackets within brackets; each costs the stack some frames.
+constexpr int maxDepth = 100;
+
 bool SameWord(const QString& first, QStringView second)
 {
     return second.compare(first, Qt::CaseInsensitive) == 0;
@@ -157,10 +160,14 @@ QString AsStored(const Expression& expression, ColumnType type)
 
 Expression ExpressionReader::read()
 {
+    if (++m_depth > maxDepth) {
+        throw Error(QStringLiteral("The query cannot be understood: it has too many brackets within brackets."));
+    }
     Expression left = conjunction();
     while (m_tokens.takeWord(u"OR")) {
         left = Joined(left, QStringLiteral("OR"), conjunction());
     }
+    --m_depth;
     return left;
 }
 
@@ -175,7 +182,11 @@ Expression ExpressionReader::conjunction()
 
 Expression ExpressionReader::negation()
 {
-    return m_tokens.takeWord(u"NOT") ? Negated(negation()) : comparison();
+    bool negated = false;
+    while (m_tokens.takeWord(u"NOT")) {
+        negated = !negated;
+    }
+    return negated ? Negated(comparison()) : comparison();
 }
 
 Expression ExpressionReader::comparison()
@@ -268,7 +279,7 @@ Expression ExpressionReader::primary()
         return inner;
     }
     if (m_tokens.takeSymbol(u"-")) {
-        return {QStringLiteral("(-%1)").arg(primary().sql), Kind::Number};
+        return {QStringLiteral("(-%1)").arg(literalOrName().sql), Kind::Number};
     }
     return literalOrName();
 }

@@ -90,6 +90,7 @@ private:
     TokenStream& m_tokens;
     const Scope& m_scope;
     std::set<std::size_t> m_usedSources;
+    int m_depth = 0;
 };
 
 } // namespace stemwright::jet

@@ -4,8 +4,6 @@
 
 #include "base/error.h"
 
-#include <QtCore/QStringList>
-
 #include <limits>
 
 namespace stemwright
@@ -338,24 +336,36 @@ const TableDefinition& TableNamed(QStringView name)
     throw Error(QStringLiteral("A family file has no table named %1.").arg(name));
 }
 
-void CreateBareTable(Connection& connection, const TableDefinition& table)
+QString CreateTableSql(const TableDefinition& table)
 {
     QStringList columns;
     for (const ColumnDefinition& column : table.columns) {
         columns << QStringLiteral("\"%1\" %2%3%4")
                        .arg(column.name, DeclaredType(column.type), KeyOf(table, column), CheckOf(column));
     }
-    connection.execute(
-        QStringLiteral("CREATE TABLE \"%1\" (\n  %2\n)").arg(table.name, columns.join(QStringLiteral(",\n  "))));
+    return QStringLiteral("CREATE TABLE \"%1\" (\n  %2\n)").arg(table.name, columns.join(QStringLiteral(",\n  ")));
+}
+
+QStringList CreateIndexesSql(const TableDefinition& table)
+{
+    QStringList statements;
+    for (const IndexDefinition& index : table.indexes) {
+        if (index.kind == IndexKind::Plain) {
+            statements << QStringLiteral("CREATE INDEX \"%1_%2\" ON \"%1\" (\"%2\")").arg(table.name, index.column);
+        }
+    }
+    return statements;
+}
+
+void CreateBareTable(Connection& connection, const TableDefinition& table)
+{
+    connection.execute(CreateTableSql(table));
 }
 
 void CreateIndexes(Connection& connection, const TableDefinition& table)
 {
-    for (const IndexDefinition& index : table.indexes) {
-        if (index.kind == IndexKind::Plain) {
-            connection.execute(
-                QStringLiteral("CREATE INDEX \"%1_%2\" ON \"%1\" (\"%2\")").arg(table.name, index.column));
-        }
+    for (const QString& statement : CreateIndexesSql(table)) {
+        connection.execute(statement);
     }
 }
 

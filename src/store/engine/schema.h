@@ -5,6 +5,7 @@
 #include "store/engine/connection.h"
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <vector>
 
@@ -63,6 +64,10 @@ const ColumnDefinition* FindColumn(const TableDefinition& table, QStringView nam
 
 /// The definition of a table, its name compared without regard to case. Throws Error for an unknown name.
 const TableDefinition& TableNamed(QStringView name);
+
+/// The engine's statements that create a table and its secondary indexes, word for word as the engine keeps them.
+QString CreateTableSql(const TableDefinition& table);
+QStringList CreateIndexesSql(const TableDefinition& table);
 
 /// Creates a table without its secondary indexes; filling a table and indexing it afterwards is much faster than the
 /// other way round. Fails when the table exists.

@@ -39,11 +39,30 @@ void RequireSound(SQLite::Database& copy)
     }
 }
 
+void RequireWritableFolder(const QString& path)
+{
+    const QFileInfo folder(path);
+    if (!folder.isDir()) {
+        throw Error(QStringLiteral("There is no folder %1.").arg(QDir::toNativeSeparators(path)));
+    }
+    if (!folder.isWritable()) {
+        throw Error(QStringLiteral("Folder %1 is write-protected.").arg(QDir::toNativeSeparators(path)));
+    }
+}
+
 } // namespace
+
+void RequireOtherFile(const Connection& connection, const QString& target)
+{
+    if (IsSameFile(connection.path(), target)) {
+        throw Error(QStringLiteral("That is the open family file itself."));
+    }
+}
 
 void PrepareToReplace(const QString& path)
 {
     const QFileInfo info(path);
+    RequireWritableFolder(info.absolutePath());
     if (!info.exists()) {
         return;
     }
@@ -69,9 +88,7 @@ void PrepareToReplace(const QString& path)
 
 void CopyFamilyFile(Connection& connection, const QString& target)
 {
-    if (IsSameFile(connection.path(), target)) {
-        throw Error(QStringLiteral("A family file cannot be copied onto itself."));
-    }
+    RequireOtherFile(connection, target);
     PrepareToReplace(target);
     UnfinishedFile unfinished(target);
     {

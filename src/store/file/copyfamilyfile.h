@@ -16,6 +16,9 @@ namespace stemwright
 /// and a file that another program has open. Must not be called within a transaction.
 void CopyFamilyFile(Connection& connection, const QString& target);
 
+/// Throws Error when `target` is the open family file itself.
+void RequireOtherFile(const Connection& connection, const QString& target);
+
 /// Where the backup of a family file goes: the same folder and base name, the extension ".ffb".
 QString BackupPath(const QString& familyFile);
 
@@ -23,9 +26,9 @@ QString BackupPath(const QString& familyFile);
 /// within a transaction.
 QString BackupFamilyFile(Connection& connection);
 
-/// Makes sure that the file at `path` may be replaced: it is no folder and not write-protected, and no other program
-/// has it open. Whatever the engine's journal beside it has to say to it is done, so that the journal is not taken for
-/// that of the file which comes in its place. A missing file is fine.
+/// Makes sure that a file can be put at `path`: the folder is there and can be written, and a file that stands there is
+/// no folder, not write-protected and not open in any program. Whatever the engine's journal beside it has to say to it
+/// is done, so that the journal is not taken for that of the file which comes in its place.
 void PrepareToReplace(const QString& path);
 
 } // namespace stemwright

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "store/file/familyfile.h"
 
-#include "base/error.h"
 #include "base/files.h"
+#include "store/engine/engineerror.h"
 #include "store/file/copyfamilyfile.h"
 #include "store/file/createtables.h"
 #include "store/file/messages.h"
+#include "store/file/recognise.h"
 
 #include <QtCore/QFileInfo>
 
@@ -24,6 +25,14 @@ void WriteNewFile(const QString& path, Environment& environment)
     transaction.commit();
 }
 
+std::unique_ptr<Connection> OpenRecognised(const QString& path)
+{
+    RequireEngineFile(path);
+    auto connection = std::make_unique<Connection>(path, OpenMode::ReadWrite);
+    RequireFamilyFile(*connection);
+    return connection;
+}
+
 } // namespace
 
 bool CreateFamilyFile(FamilyFile& file, const QString& path, Environment& environment)
@@ -35,7 +44,7 @@ bool CreateFamilyFile(FamilyFile& file, const QString& path, Environment& enviro
         WriteNewFile(unfinished.path(), environment);
         unfinished.putInPlace();
     } catch (const std::exception& exception) {
-        environment.talk.tell(storemessages::CannotCreate(target, ErrorText(exception)));
+        environment.talk.tell(storemessages::CannotCreate(target, ReasonText(exception)));
         return false;
     }
     if (!OpenFamilyFile(file, target, environment)) {
@@ -48,11 +57,14 @@ bool CreateFamilyFile(FamilyFile& file, const QString& path, Environment& enviro
 bool OpenFamilyFile(FamilyFile& file, const QString& path, Environment& environment)
 {
     const QString target = QFileInfo(path).absoluteFilePath();
+    if (file.isOpen() && IsSameFile(file.path(), target)) {
+        return true;
+    }
     try {
-        file.adopt(std::make_unique<Connection>(target, OpenMode::ReadWrite));
+        file.adopt(OpenRecognised(target));
         return true;
     } catch (const std::exception& exception) {
-        environment.talk.tell(storemessages::CannotOpen(target, ErrorText(exception)));
+        environment.talk.tell(storemessages::CannotOpen(target, ReasonText(exception)));
         return false;
     }
 }

@@ -26,4 +26,32 @@ Message CannotOpen(const QString& path, const QString& reason)
             Icon::Critical};
 }
 
+Message CannotSaveAs(const QString& path, const QString& reason)
+{
+    return {QStringLiteral("Save Family File As"),
+            QStringLiteral("The family file cannot be saved as %1.\n\n%2").arg(QDir::toNativeSeparators(path), reason),
+            Icon::Critical};
+}
+
+Message ReplaceExisting(const QString& path)
+{
+    return {{},
+            QDir::toNativeSeparators(path) + QStringLiteral(" already exists.\nDo you want to replace it?"),
+            Icon::Warning,
+            {Button::Yes, Button::No},
+            Button::No};
+}
+
+Message CreationConfirmation()
+{
+    return {QStringLiteral("Family File Creation Confirmation"),
+            QStringLiteral("Congratulations! You have just created a new family file. Now you can "
+                           "import a GEDCOM file by selecting File > Import GEDCOM file."
+                           "You can also "
+                           "use Pictures > Add Picture Record "
+                           "to create new picture records. Afterwards you will be able to use "
+                           "Edit Picture Record and Delete Picture Record to modify or remove existing records."),
+            Icon::Information};
+}
+
 } // namespace stemwright::storemessages

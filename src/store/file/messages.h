@@ -4,12 +4,19 @@
 
 #include "base/talk.h"
 
-/// The texts that creating, opening and copying family files shows, word for word.
+/// The texts that creating, opening and copying family files shows, word for word. Paths are shown with the platform's
+/// own separators.
 namespace stemwright::storemessages
 {
 
+/// The file that was just created does not open.
 Message CouldNotReopen();
 Message CannotCreate(const QString& path, const QString& reason);
 Message CannotOpen(const QString& path, const QString& reason);
+Message CannotSaveAs(const QString& path, const QString& reason);
+/// Asks whether a file that stands in the place of a new one may go.
+Message ReplaceExisting(const QString& path);
+/// What to do next with a family file that was just created.
+Message CreationConfirmation();
 
 } // namespace stemwright::storemessages

@@ -132,6 +132,8 @@ TEST(JetSql, CriteriaFindTheirRows)
     ASSERT_TRUE(rows.step());
     EXPECT_EQ(rows.integer(0), 1);
     EXPECT_THROW(TranslateJetCriterion(QStringLiteral("Label = 'O'Brien'")), Error);
+    EXPECT_THROW(TranslateJetCriterion(QString(100000, u'(')), Error);
+    EXPECT_NO_THROW(TranslateJetCriterion(QStringLiteral("NOT ").repeated(100000) + u'1'));
 }
 
 TEST(JetSql, ParametersTakeTextsWithQuotes)

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "store/engine/schema.h"
+
+#include "base/files.h"
+#include "support/testworld.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <gtest/gtest.h>
+
+namespace stemwright::test
+{
+
+namespace
+{
+
+/// A column or an index of the golden table list, as it stands there.
+struct ListedTable {
+    QString name;
+    std::vector<QStringList> columns;
+    QStringList keys;
+    QStringList indexes;
+};
+
+std::vector<ListedTable> ReadList()
+{
+    std::vector<ListedTable> tables;
+    const QStringList lines =
+        QString::fromUtf8(ReadWholeFile(TestData(QStringLiteral("store/schema.txt")))).split(u'\n');
+    for (const QString& line : lines) {
+        const QStringList words =
+            line.startsWith(u'#') ? QStringList() : line.simplified().split(u' ', Qt::SkipEmptyParts);
+        if (words.isEmpty()) {
+            continue;
+        }
+        if (words[0] == u"table") {
+            tables.push_back({words[1], {}, {}, {}});
+        } else if (words[0] == u"column") {
+            tables.back().columns.push_back(words.mid(1));
+        } else {
+            (words[0] == u"key" ? tables.back().keys : tables.back().indexes) << words[1];
+        }
+    }
+    return tables;
+}
+
+QStringList Values(Connection& connection, const QString& sql)
+{
+    QStringList values;
+    Statement statement = connection.prepare(sql);
+    while (statement.step()) {
+        values << statement.text(0);
+    }
+    return values;
+}
+
+/// Whether the engine takes a value for a column of a new row.
+bool Takes(Connection& connection, const QString& table, const QString& column, const QString& value)
+{
+    const Transaction undone(connection);
+    Statement insert = connection.prepare(QStringLiteral("INSERT INTO \"%1\" (\"%2\") VALUES (?1)").arg(table, column));
+    try {
+        return insert.bind(1, value).run() == 1;
+    } catch (const SQLite::Exception&) {
+        return false;
+    }
+}
+
+/// What the engine makes of the text 007 in a column: text keeps its zeros.
+QString Stored007(Connection& connection, const QString& table, const QString& column)
+{
+    const Transaction undone(connection);
+    connection.execute(
+        QStringLiteral("DELETE FROM \"%1\"; INSERT INTO \"%1\" (\"%2\") VALUES ('007')").arg(table, column));
+    return Values(connection, QStringLiteral("SELECT \"%2\" FROM \"%1\"").arg(table, column)).value(0);
+}
+
+void ExpectColumnRules(Connection& connection, const QString& table, const QStringList& column)
+{
+    const QString& name = column[0];
+    const QString& type = column[1];
+    const bool emptyTaken = column.value(2) == u"ZL";
+    SCOPED_TRACE((table + u'.' + name).toStdString());
+    EXPECT_TRUE(type == u"integer" || Takes(connection, table, name, QString()));
+    if (type == u"text") {
+        EXPECT_EQ(Takes(connection, table, name, QStringLiteral("")), emptyTaken);
+        EXPECT_TRUE(Takes(connection, table, name, QString(255, u'ü')));
+        EXPECT_FALSE(Takes(connection, table, name, QString(256, u'x')));
+    }
+    if (type == u"text" || type == u"memo") {
+        EXPECT_EQ(Stored007(connection, table, name), QStringLiteral("007"));
+    }
+    if (type == u"memo") {
+        EXPECT_TRUE(Takes(connection, table, name, QString(100000, u'x')));
+        EXPECT_TRUE(Takes(connection, table, name, QStringLiteral("")));
+    }
+    if (type == u"date") {
+        EXPECT_EQ(Stored007(connection, table, name), QStringLiteral("007"));
+    }
+    if (type == u"yes/no") {
+        EXPECT_TRUE(Takes(connection, table, name, QStringLiteral("-1")));
+        EXPECT_TRUE(Takes(connection, table, name, QStringLiteral("0")));
+        EXPECT_FALSE(Takes(connection, table, name, QStringLiteral("1")));
+    }
+    if (type == u"integer") {
+        EXPECT_TRUE(Takes(connection, table, name, QStringLiteral("-2147483648")));
+        EXPECT_FALSE(Takes(connection, table, name, QStringLiteral("2147483648")));
+        EXPECT_FALSE(Takes(connection, table, name, QStringLiteral("seven")));
+    }
+}
+
+} // namespace
+
+TEST(Schema, TablesAreAsListed)
+{
+    TestWorld world;
+    Connection& connection = world.newFamilyFile().connection();
+    for (const TableDefinition& table : OldAlbumTables()) {
+        CreateTable(connection, table);
+    }
+    const Transaction fasterThanOneForEachValue(connection);
+    const std::vector<ListedTable> tables = ReadList();
+    QStringList names;
+    for (const ListedTable& table : tables) {
+        names << table.name;
+        QStringList columns;
+        for (const QStringList& column : table.columns) {
+            columns << column[0];
+            ExpectColumnRules(connection, table.name, column);
+        }
+        EXPECT_EQ(Values(connection, QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table.name)),
+                  columns);
+        EXPECT_EQ(
+            Values(connection, QStringLiteral("SELECT name FROM pragma_table_info('%1') WHERE pk").arg(table.name)),
+            table.keys);
+        EXPECT_EQ(
+            Values(connection,
+                   QStringLiteral("SELECT i.name FROM pragma_index_list('%1') AS l, pragma_index_info(l.name) AS i"
+                                  " WHERE l.origin = 'c' AND NOT l.\"unique\" ORDER BY l.seq DESC")
+                       .arg(table.name)),
+            table.indexes);
+    }
+    EXPECT_EQ(Values(connection, QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE"
+                                                " 'sqlite%' ORDER BY rowid")),
+              names);
+}
+
+TEST(Schema, AutoNumbersAreNeverGivenTwice)
+{
+    TestWorld world;
+    Connection& connection = world.newFamilyFile().connection();
+    const auto add = [&connection] {
+        connection.execute(QStringLiteral("INSERT INTO AlbumTOC (Title) VALUES ('')"));
+        return connection.lastInsertId();
+    };
+    EXPECT_EQ(add(), 1);
+    EXPECT_EQ(add(), 2);
+    connection.execute(QStringLiteral("DELETE FROM AlbumTOC"));
+    EXPECT_EQ(add(), 3);
+}
+
+TEST(Schema, KeysTellNoUpperFromLowerCase)
+{
+    TestWorld world;
+    Connection& connection = world.newFamilyFile().connection();
+    connection.execute(QStringLiteral("INSERT INTO SchemaIndi (Fact) VALUES ('_FA1')"));
+    EXPECT_FALSE(Takes(connection, QStringLiteral("SchemaIndi"), QStringLiteral("Fact"), QStringLiteral("_fa1")));
+    EXPECT_THROW(CreateTable(connection, TableNamed(u"indi")), SQLite::Exception);
+}
+
+} // namespace stemwright::test
