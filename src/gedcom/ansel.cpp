@@ -12,8 +12,8 @@ namespace stemwright
 namespace
 {
 
-/// Bytes 0xA0 to 0xCF: letters and signs that stand for themselves; 0 where ANSEL leaves the byte free. 0xBE, 0xBF, 0xCD,
-/// 0xCE and 0xCF are GEDCOM's own (boxes, small e and o in the middle of the line, sharp s).
+/// Bytes 0xA0 to 0xCF: letters and signs that stand for themselves; 0 where ANSEL leaves the byte free. 0xBE, 0xBF,
+/// 0xCD, 0xCE and 0xCF are GEDCOM's own (boxes, small e and o in the middle of the line, sharp s).
 constexpr std::array<char16_t, 48> spacing = {
     0,      0x0141, 0x00D8, 0x0110, 0x00DE, 0x00C6, 0x0152, 0x02B9, 0x00B7, 0x266D, 0x00AE, 0x00B1,
     0x01A0, 0x01AF, 0x02BC, 0,      0x02BB, 0x0142, 0x00F8, 0x0111, 0x00FE, 0x00E6, 0x0153, 0x02BA,

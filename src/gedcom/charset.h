@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-/// The character sets that GEDCOM files are written in, and the way from their bytes to UTF-8. Nothing here fails: bytes
-/// that a character set does not know are read as Windows-1252, so that no text is lost. Stands on Qt Core only.
+/// The character sets that GEDCOM files are written in, and the way from their bytes to UTF-8. Nothing here fails:
+/// bytes that a character set does not know are read as Windows-1252, so that no text is lost. Stands on Qt Core only.
 namespace stemwright
 {
 
@@ -21,8 +21,8 @@ QString CharsetName(Charset charset);
 /// The characters of bytes 0x80 to 0xFF of a single-byte character set (not ANSEL): 128 of them.
 std::u16string_view HighCharacters(Charset charset);
 
-/// Turns values into UTF-8, one whole value at a time: some exporters split a character between two lines, so lines have
-/// to be joined before. The two UTF-16 sets arrive here as UTF-8 already (linesource.h).
+/// Turns values into UTF-8, one whole value at a time: some exporters split a character between two lines, so lines
+/// have to be joined before. The two UTF-16 sets arrive here as UTF-8 already (linesource.h).
 class ValueDecoder
 {
 public:

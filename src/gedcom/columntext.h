@@ -19,8 +19,8 @@ class ColumnText
 public:
     ColumnText(Charset charset, ImportReport& report) : m_decoder(charset), m_report(report) {}
 
-    /// UTF-8 of at most maxTextLength characters, valid until the next call. `tag` and `line` say in the report where the
-    /// value stood.
+    /// UTF-8 of at most maxTextLength characters, valid until the next call. `tag` and `line` say in the report where
+    /// the value stood.
     std::string_view fit(std::string_view bytes, std::string_view tag, qint64 line)
     {
         return cut(m_decoder.decode(bytes), tag, line);
@@ -29,8 +29,8 @@ public:
     /// UTF-8 of any length, valid until the next call.
     std::string_view decode(std::string_view bytes) { return m_decoder.decode(bytes); }
 
-    /// The beginning of `utf8` that a column takes. The cut is made between two characters as readers see them: no letter
-    /// loses its accent.
+    /// The beginning of `utf8` that a column takes. The cut is made between two characters as readers see them: no
+    /// letter loses its accent.
     std::string_view cut(std::string_view utf8, std::string_view tag, qint64 line);
 
     ImportReport& report() { return m_report; }
@@ -40,8 +40,9 @@ private:
     ImportReport& m_report;
 };
 
-/// A value that CONT and CONC lines may continue, kept as bytes of the file until it is whole. CONT begins a new line of
-/// the value; CONC goes on where the line before was split, with the blanks and the comma that the reader dropped there.
+/// A value that CONT and CONC lines may continue, kept as bytes of the file until it is whole. CONT begins a new line
+/// of the value; CONC goes on where the line before was split, with the blanks and the comma that the reader dropped
+/// there.
 class ContinuedText
 {
 public:

@@ -85,8 +85,8 @@ const std::string& CustomFacts::folded(std::string_view text)
     return m_folded;
 }
 
-/// Adds a fact under the next stem. Stems that the file declares or uses itself are passed over, because a stem holds one
-/// fact only; a file whose own facts are numbered without gaps and declared first never has one in the way.
+/// Adds a fact under the next stem. Stems that the file declares or uses itself are passed over, because a stem holds
+/// one fact only; a file whose own facts are numbered without gaps and declared first never has one in the way.
 const CustomFact& CustomFacts::add(std::string_view tag, std::string_view label)
 {
     do {

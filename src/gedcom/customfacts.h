@@ -11,8 +11,9 @@
 #include <string_view>
 #include <unordered_map>
 
-/// The schema of custom facts of individuals or of families, in memory while the import runs: which event stands in which
-/// column pair "_FAn_Date" and "_FAn_Place". Tags and labels are compared without regard to case. Stands on the row writer.
+/// The schema of custom facts of individuals or of families, in memory while the import runs: which event stands in
+/// which column pair "_FAn_Date" and "_FAn_Place". Tags and labels are compared without regard to case. Stands on the
+/// row writer.
 namespace stemwright
 {
 

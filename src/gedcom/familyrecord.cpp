@@ -179,8 +179,8 @@ bool FamilyRecord::mayAdd(std::string_view label)
     if (facts().findLabel(label) != nullptr) {
         return true;
     }
-    const int reserved = (facts().findLabel(beginningLabel) == nullptr ? 1 : 0) +
-                         (facts().findLabel(endingLabel) == nullptr ? 1 : 0);
+    const int reserved =
+        (facts().findLabel(beginningLabel) == nullptr ? 1 : 0) + (facts().findLabel(endingLabel) == nullptr ? 1 : 0);
     return facts().slotsLeft() > reserved;
 }
 

@@ -7,8 +7,9 @@
 namespace stemwright
 {
 
-/// A FAM record: one row of Fam, and a row of Fam2Child for each of its CHIL lines. How a couple's partnership began and
-/// ended is kept as two family facts; events of any other TYPE become family facts with that label while columns last.
+/// A FAM record: one row of Fam, and a row of Fam2Child for each of its CHIL lines. How a couple's partnership began
+/// and ended is kept as two family facts; events of any other TYPE become family facts with that label while columns
+/// last.
 class FamilyRecord : public RowRecord
 {
 public:
@@ -58,8 +59,8 @@ private:
     bool m_notDivorced = false;
 };
 
-/// The status that the TYPE of a family event tells of a partnership: the text before "Begin" where there is one, else the
-/// whole TYPE. Empty when the TYPE holds neither "Begin" nor the word "Partners"; case does not count.
+/// The status that the TYPE of a family event tells of a partnership: the text before "Begin" where there is one, else
+/// the whole TYPE. Empty when the TYPE holds neither "Begin" nor the word "Partners"; case does not count.
 std::string_view PartnershipStatus(std::string_view type);
 
 } // namespace stemwright

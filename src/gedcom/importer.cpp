@@ -10,7 +10,6 @@
 #include "gedcom/messages.h"
 #include "gedcom/schemarecord.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
 namespace stemwright
@@ -143,10 +142,9 @@ std::optional<Message> TreeImport::endRecord()
     if (ended == nullptr || ended->finish() == RowResult::Written) {
         return std::nullopt;
     }
-    return ended == &m_family
-               ? gedcommessages::DuplicateFamily(m_family.duplicateId())
-               : gedcommessages::DuplicateIndividual(m_individual.duplicateId(), m_individual.surname(),
-                                                     m_individual.givenName());
+    return ended == &m_family ? gedcommessages::DuplicateFamily(m_family.duplicateId())
+                              : gedcommessages::DuplicateIndividual(m_individual.duplicateId(), m_individual.surname(),
+                                                                    m_individual.givenName());
 }
 
 void TreeImport::skip(RecordKind kind, const GedcomLine& line, std::string_view identifier)
@@ -159,7 +157,8 @@ void TreeImport::skip(RecordKind kind, const GedcomLine& line, std::string_view 
 
 void TreeImport::writeSchema()
 {
-    for (const auto& [facts, table] : {std::pair(&m_individualFacts, u"SchemaIndi"), std::pair(&m_familyFacts, u"SchemaFam")}) {
+    for (const auto& [facts, table] :
+         {std::pair(&m_individualFacts, u"SchemaIndi"), std::pair(&m_familyFacts, u"SchemaFam")}) {
         RowWriter rows(m_connection, TableNamed(table));
         for (const CustomFact& fact : facts->all()) {
             rows.setText(rows.column(u"Fact"), fact.stem);
@@ -172,21 +171,11 @@ void TreeImport::writeSchema()
     }
 }
 
-void OpenInput(QFile& file)
-{
-    if (QFileInfo info(file); info.exists() && !info.isFile()) {
-        throw Error(gedcommessages::NotAFile(file.fileName()));
-    }
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        throw Error(gedcommessages::CannotOpen(file.fileName(), file.errorString()));
-    }
-}
-
 /// Rebuilds the tree in a transaction. What stood before a duplicate is kept; an exception undoes everything.
 std::optional<Message> ImportInOneAction(Connection& connection, const QString& path, Talk& talk, ImportReport& report)
 {
     QFile file(path);
-    OpenInput(file);
+    OpenGedcomFile(file);
     const std::unique_ptr<Progress> progress =
         talk.progress(gedcommessages::progressTitle, gedcommessages::progressCaption);
     Transaction transaction(connection);
@@ -197,6 +186,16 @@ std::optional<Message> ImportInOneAction(Connection& connection, const QString& 
 }
 
 } // namespace
+
+void OpenGedcomFile(QFile& file)
+{
+    if (QFileInfo info(file); info.exists() && !info.isFile()) {
+        throw Error(gedcommessages::NotAFile(file.fileName()));
+    }
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        throw Error(gedcommessages::CannotOpen(file.fileName(), file.errorString()));
+    }
+}
 
 std::optional<Message> RebuildTree(QIODevice& input, Connection& connection, Progress& progress, ImportReport& report)
 {

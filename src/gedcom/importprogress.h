@@ -7,8 +7,8 @@
 namespace stemwright
 {
 
-/// When the progress bar of an import moves: at the end of a record once more than 100 lines were read since it last could
-/// have, to the part of the file that was read, known in whole blocks of 128 bytes.
+/// When the progress bar of an import moves: at the end of a record once more than 100 lines were read since it last
+/// could have, to the part of the file that was read, known in whole blocks of 128 bytes.
 class ImportProgress
 {
 public:

@@ -89,13 +89,14 @@ QString ReportText(const ImportReport& report)
                          QStringLiteral("Links to spouses: %1").arg(report.spouseLinks)};
     const bool declaredOtherwise =
         !report.declaredCharset.isEmpty() && report.declaredCharset.compare(report.charset, Qt::CaseInsensitive) != 0;
-    lines << (declaredOtherwise ? QStringLiteral("Encoding: %1 (the file says %2)")
-                                      .arg(report.charset, report.declaredCharset)
-                                : QStringLiteral("Encoding: %1").arg(report.charset));
+    lines << (declaredOtherwise
+                  ? QStringLiteral("Encoding: %1 (the file says %2)").arg(report.charset, report.declaredCharset)
+                  : QStringLiteral("Encoding: %1").arg(report.charset));
     for (const LossWords& words : lossWords) {
         const LossList& list = report.of(words.kind);
         if (list.count > 0) {
-            lines << QString::fromLatin1(words.sentence).arg(list.count) + QStringLiteral(" (") + NotesText(list) + u')';
+            lines << QString::fromLatin1(words.sentence).arg(list.count) + QStringLiteral(" (") + NotesText(list) +
+                         u')';
         }
     }
     if (report.outcome == ImportOutcome::Completed && !report.hasTrailer) {

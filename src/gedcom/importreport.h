@@ -68,7 +68,8 @@ struct ImportReport {
     void note(Loss kind, qint64 line, std::string_view subject);
 };
 
-/// The report as lines of text for the user, each ended by a line break. Of each kind of loss the first lines are named.
+/// The report as lines of text for the user, each ended by a line break. Of each kind of loss the first lines are
+/// named.
 QString ReportText(const ImportReport& report);
 
 /// The report as a JSON document.

@@ -25,7 +25,9 @@ public:
 
 protected:
     void takeField(const GedcomLine& line) override;
+
     void takeDetail(const GedcomLine&) override {}
+
     void storeEvent() override;
 
 private:

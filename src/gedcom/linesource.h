@@ -9,8 +9,8 @@
 
 #include <string>
 
-/// A text file as a stream of physical lines, read in blocks, so that memory does not grow with the file. Lines end in LF,
-/// CR, CRLF or LFCR, mixed as they come. Failures of reading throw Error. Stands on base.
+/// A text file as a stream of physical lines, read in blocks, so that memory does not grow with the file. Lines end in
+/// LF, CR, CRLF or LFCR, mixed as they come. Failures of reading throw Error. Stands on base.
 namespace stemwright
 {
 
@@ -35,13 +35,15 @@ public:
     /// Goes to the next line; false at the end of the file.
     bool next(SourceLine& line);
 
-    /// How far the file was read, in bytes: the end of the last line handed out. Exact for byte-sized character sets, in
-    /// proportion for UTF-16.
+    /// How far the file was read, in bytes: the end of the last line handed out. Exact for byte-sized character sets,
+    /// in proportion for UTF-16.
     qint64 position() const;
 
 private:
     bool fill();
+
     std::size_t unread() const { return m_buffer.size() - m_begin; }
+
     std::size_t find(char wanted, std::size_t& known) const;
     std::size_t lineEnd();
     void passOtherHalf();
@@ -53,7 +55,8 @@ private:
     /// The buffered text; m_begin is the first byte not yet handed out.
     std::string m_buffer;
     std::size_t m_begin = 0;
-    /// Where the next LF and CR stand in the buffer, so that a file with only one of them is not searched again and again.
+    /// Where the next LF and CR stand in the buffer, so that a file with only one of them is not searched again and
+    /// again.
     std::size_t m_lineFeed = 0;
     std::size_t m_carriageReturn = 0;
     /// The byte that ended the last line; the other one of a pair belongs to the same line end.

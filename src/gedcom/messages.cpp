@@ -20,7 +20,8 @@ QString Lines(const QStringList& lines)
 
 FileRequest SelectGedcomFile(const QString& folder)
 {
-    return {QStringLiteral("Select GEDCOM file"), FilePurpose::Open, {QStringLiteral("GEDCOM file (*.ged)")}, folder, {}};
+    return {
+        QStringLiteral("Select GEDCOM file"), FilePurpose::Open, {QStringLiteral("GEDCOM file (*.ged)")}, folder, {}};
 }
 
 Message CreatingBackup()
@@ -55,7 +56,8 @@ Message FileConflict(const QString& newPath, const QString& storedPath)
 
 Message DuplicateIndividual(int id, const QString& surname, const QString& givenName)
 {
-    // The names come from the file and may hold anything, a placeholder as well: multi-argument arg() leaves them alone.
+    // The names come from the file and may hold anything, a placeholder as well: multi-argument arg() leaves them
+    // alone.
     return {{},
             QStringLiteral("Your GEDCOM file has a duplicate entry for individual ID # %1 (%2, %3). Please click OK, "
                            "correct the condition and import the GEDCOM again.")
@@ -84,7 +86,8 @@ QString CannotOpen(const QString& path, const QString& reason)
 
 QString NotAFile(const QString& path)
 {
-    return QStringLiteral("%1 is not a file. Please choose the GEDCOM file itself.").arg(QDir::toNativeSeparators(path));
+    return QStringLiteral("%1 is not a file. Please choose the GEDCOM file itself.")
+        .arg(QDir::toNativeSeparators(path));
 }
 
 QString CannotRead(const QString& reason)
@@ -112,16 +115,18 @@ QString BinaryFile()
 
 QString NoRecords()
 {
-    return QStringLiteral("This is not a GEDCOM file: no record was found in it. Please export your tree as GEDCOM from "
-                          "your genealogy program. Your family tree was left as it was.");
+    return QStringLiteral(
+        "This is not a GEDCOM file: no record was found in it. Please export your tree as GEDCOM from "
+        "your genealogy program. Your family tree was left as it was.");
 }
 
 QString NoColumnsFor(const QString& stem, const QString& label, qint64 line)
 {
     const QString fact = label.isEmpty() ? stem : QStringLiteral("%1 (%2)").arg(stem, label);
-    return QStringLiteral("The GEDCOM file has more kinds of events than a family file can hold: there is no place for %1 "
-                          "in line %2. Please give several of these events one common type in your genealogy program "
-                          "and export the file again. Your family tree was left as it was.")
+    return QStringLiteral(
+               "The GEDCOM file has more kinds of events than a family file can hold: there is no place for %1 "
+               "in line %2. Please give several of these events one common type in your genealogy program "
+               "and export the file again. Your family tree was left as it was.")
         .arg(fact, QString::number(line));
 }
 

@@ -185,8 +185,8 @@ bool SameText(std::string_view left, std::string_view right)
 
 bool StartsWith(std::string_view text, std::string_view prefix)
 {
-    return text.size() >= prefix.size() && std::equal(prefix.begin(), prefix.end(), text.begin(),
-                                                      [](char a, char b) { return Upper(a) == Upper(b); });
+    return text.size() >= prefix.size() &&
+           std::equal(prefix.begin(), prefix.end(), text.begin(), [](char a, char b) { return Upper(a) == Upper(b); });
 }
 
 } // namespace stemwright

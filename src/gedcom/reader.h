@@ -6,9 +6,9 @@
 
 #include <string_view>
 
-/// The GEDCOM reader: a file as a stream of lines, each split into level, cross-reference number, tag and value, without a
-/// grammar and without a record tree; and the text routines that the importer needs. Values stay in the file's bytes.
-/// Only reading the file can fail (Error). Stands on base.
+/// The GEDCOM reader: a file as a stream of lines, each split into level, cross-reference number, tag and value,
+/// without a grammar and without a record tree; and the text routines that the importer needs. Values stay in the
+/// file's bytes. Only reading the file can fail (Error). Stands on base.
 namespace stemwright
 {
 
@@ -23,8 +23,8 @@ struct GedcomLine {
     std::string_view Value;
     /// The physical line's number, from 1.
     qint64 number = 0;
-    /// What was dropped around the value: blanks in front of it, beyond the one that ends the tag, and blanks and a final
-    /// comma behind it. A CONC line joins what stood there.
+    /// What was dropped around the value: blanks in front of it, beyond the one that ends the tag, and blanks and a
+    /// final comma behind it. A CONC line joins what stood there.
     std::string_view droppedBefore;
     std::string_view droppedAfter;
     /// Whether the line has a cross-reference in front of its tag, usable or not.
@@ -38,12 +38,12 @@ struct GedcomName {
     std::string_view Suffix;
 };
 
-/// Reads the next physical line and splits it; false at the end of the file. Blanks and tabs at both ends are dropped, a
-/// final comma of the value is removed, and runs of up to eight commas in it shrink to one.
+/// Reads the next physical line and splits it; false at the end of the file. Blanks and tabs at both ends are dropped,
+/// a final comma of the value is removed, and runs of up to eight commas in it shrink to one.
 bool ReadGedcomLine(LineSource& source, GedcomLine& line);
 
-/// Turns a cross-reference such as @I123@ into 123: every "@", "I", "F", "U" and "S" is dropped, "-" and "_" count as 0.
-/// -1 when what is left is not a whole number of at most 32 bits.
+/// Turns a cross-reference such as @I123@ into 123: every "@", "I", "F", "U" and "S" is dropped, "-" and "_" count as
+/// 0. -1 when what is left is not a whole number of at most 32 bits.
 int XrefToNumber(std::string_view text);
 
 /// Splits a NAME value at its slashes; without a slash all of it is the given name.
@@ -65,8 +65,8 @@ bool SameText(std::string_view left, std::string_view right);
 /// Whether `text` begins with `prefix`, without regard to the case of ASCII letters.
 bool StartsWith(std::string_view text, std::string_view prefix);
 
-/// A tag of up to eight characters, in upper case, as one number, so that tags can be told apart by a switch. Longer ones
-/// give 0.
+/// A tag of up to eight characters, in upper case, as one number, so that tags can be told apart by a switch. Longer
+/// ones give 0.
 constexpr quint64 PackTag(std::string_view tag)
 {
     quint64 packed = 0;

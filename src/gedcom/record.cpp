@@ -142,8 +142,8 @@ void RowRecord::setCustomFact()
     }
 }
 
-/// Whether the columns of a stem are free for the open event. Date and place of two events are never mixed: an event that
-/// comes when another one has filled one of the columns is left out whole.
+/// Whether the columns of a stem are free for the open event. Date and place of two events are never mixed: an event
+/// that comes when another one has filled one of the columns is left out whole.
 bool RowRecord::claimColumns(const CustomFact& fact)
 {
     if (fact.dateColumn == 0 || fact.placeColumn == 0) {

@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-/// Inserts rows into a wide table of which most columns stay Null: the statement is prepared once, and a row costs only the
-/// columns that are set. Fails as the engine fails. Stands on the schema.
+/// Inserts rows into a wide table of which most columns stay Null: the statement is prepared once, and a row costs only
+/// the columns that are set. Fails as the engine fails. Stands on the schema.
 namespace stemwright
 {
 
@@ -24,21 +24,19 @@ public:
     /// The number of a column for set(), from 1; 0 when the table has no such column.
     int column(QStringView name) const;
 
-    /// Sets a column of the coming row; what it was set to before is replaced. Text is copied and must be UTF-8 that the
-    /// column takes.
+    /// Sets a column of the coming row; what it was set to before is replaced. Text is copied and must be UTF-8 that
+    /// the column takes.
     void setText(int column, std::string_view utf8);
     void setInteger(int column, int value);
 
     /// Whether a column was set to a number or to a text that is not empty.
-    bool isFilled(int column) const
-    {
-        return m_filled[static_cast<std::size_t>(column)];
-    }
+    bool isFilled(int column) const { return m_filled[static_cast<std::size_t>(column)]; }
 
     /// The text of a column that was set to one; empty otherwise.
     std::string_view text(int column) const;
 
-    /// Inserts the row and begins a new one with all columns Null. A row whose key is in the table already is not inserted.
+    /// Inserts the row and begins a new one with all columns Null. A row whose key is in the table already is not
+    /// inserted.
     RowResult write();
 
     /// Forgets the coming row.
