@@ -12,6 +12,8 @@ namespace
 constexpr std::string_view beginningLabel = "Partnersip Beginning Status";
 constexpr std::string_view endingLabel = "Partnership Ending Status";
 
+constexpr std::string_view partners = "Partners";
+
 /// Where `wanted` stands in `text`, without regard to case; npos when it does not.
 std::size_t Find(std::string_view text, std::string_view wanted)
 {
@@ -47,7 +49,8 @@ std::string_view PartnershipStatus(std::string_view type)
 {
     const std::size_t begin = Find(type, "Begin");
     if (begin == std::string_view::npos) {
-        return HasWord(type, "Partners") ? type : std::string_view();
+        const bool isCode = type.find('_') != std::string_view::npos;
+        return !HasWord(type, partners) ? std::string_view() : isCode ? partners : type;
     }
     const std::string_view before = type.substr(0, begin);
     const std::size_t last = before.find_last_not_of(" \t-:,;/(");

@@ -60,7 +60,8 @@ private:
 };
 
 /// The status that the TYPE of a family event tells of a partnership: the text before "Begin" where there is one, else
-/// the whole TYPE. Empty when the TYPE holds neither "Begin" nor the word "Partners"; case does not count.
+/// the whole TYPE, or only "Partners" where the TYPE is a program's code with underscores in it. Empty when the TYPE
+/// holds neither "Begin" nor the word "Partners"; case does not count.
 std::string_view PartnershipStatus(std::string_view type);
 
 } // namespace stemwright
