@@ -15,6 +15,9 @@ if(STEMWRIGHT_SANITIZE)
   target_compile_options(stemwright_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(stemwright_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(STEMWRIGHT_FUZZ)
+  target_compile_options(stemwright_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 set_property(GLOBAL PROPERTY stemwright_layers "")
 

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "gedcom/charset.h"
+
+#include "gedcom/ansel.h"
+
+#include <QtCore/QUtf8StringView>
+
+#include <cstring>
+
+namespace stemwright
+{
+
+QString CharsetName(Charset charset)
+{
+    switch (charset) {
+    case Charset::Utf8:
+        return QStringLiteral("UTF-8");
+    case Charset::Utf16LittleEndian:
+        return QStringLiteral("UTF-16LE");
+    case Charset::Utf16BigEndian:
+        return QStringLiteral("UTF-16BE");
+    case Charset::Ansel:
+        return QStringLiteral("ANSEL");
+    case Charset::Windows1252:
+        return QStringLiteral("Windows-1252");
+    case Charset::Dos437:
+        return QStringLiteral("IBM code page 437");
+    case Charset::Dos850:
+        return QStringLiteral("IBM code page 850");
+    case Charset::MacRoman:
+        return QStringLiteral("Macintosh Roman");
+    }
+    return {};
+}
+
+bool IsAscii(std::string_view bytes)
+{
+    constexpr quint64 highBits = 0x8080808080808080U;
+    std::size_t position = 0;
+    for (; position + sizeof(quint64) <= bytes.size(); position += sizeof(quint64)) {
+        quint64 word = 0;
+        std::memcpy(&word, bytes.data() + position, sizeof word);
+        if ((word & highBits) != 0) {
+            return false;
+        }
+    }
+    return std::none_of(bytes.begin() + static_cast<std::ptrdiff_t>(position), bytes.end(),
+                        [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; });
+}
+
+ValueDecoder::ValueDecoder(Charset charset) : m_charset(charset)
+{
+    const std::u16string_view characters = HighCharacters(charset);
+    for (std::size_t index = 0; index < m_highCharacters.size(); ++index) {
+        m_highCharacters[index] = QString(QChar(characters[index])).toStdString();
+    }
+}
+
+std::string_view ValueDecoder::decode(std::string_view bytes)
+{
+    if (IsAscii(bytes)) {
+        return bytes;
+    }
+    switch (m_charset) {
+    case Charset::Utf8:
+    case Charset::Utf16LittleEndian:
+    case Charset::Utf16BigEndian:
+        return QUtf8StringView(bytes.data(), static_cast<qsizetype>(bytes.size())).isValidUtf8()
+                   ? bytes
+                   : decodeSingleBytes(bytes);
+    case Charset::Ansel:
+        m_buffer = DecodeAnsel(bytes).toStdString();
+        return m_buffer;
+    default:
+        return decodeSingleBytes(bytes);
+    }
+}
+
+std::string_view ValueDecoder::decodeSingleBytes(std::string_view bytes)
+{
+    m_buffer.clear();
+    for (const char raw : bytes) {
+        const auto byte = static_cast<unsigned char>(raw);
+        if (byte < 0x80) {
+            m_buffer += raw;
+        } else {
+            m_buffer += m_highCharacters[byte - 0x80U];
+        }
+    }
+    return m_buffer;
+}
+
+} // namespace stemwright

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "gedcom/encoding.h"
+
+#include "base/error.h"
+#include "gedcom/messages.h"
+#include "gedcom/reader.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QUtf8StringView>
+
+namespace stemwright
+{
+
+namespace
+{
+
+constexpr qint64 headSize = 65'536;
+constexpr qint64 scanBlockSize = 131'072;
+
+/// What the bytes of a whole file tell.
+struct ByteScan {
+    std::array<qint64, 128> highBytes{};
+    bool hasHighBytes = false;
+    bool validUtf8 = true;
+};
+
+/// The length of a UTF-8 sequence that begins at the end of `bytes` and is not whole yet.
+std::size_t IncompleteTail(std::string_view bytes)
+{
+    for (std::size_t back = 1; back <= std::min<std::size_t>(3, bytes.size()); ++back) {
+        const auto byte = static_cast<unsigned char>(bytes[bytes.size() - back]);
+        if (byte >= 0xC0) {
+            const std::size_t needed = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
+            return needed > back ? back : 0;
+        }
+        if (byte < 0x80) {
+            return 0;
+        }
+    }
+    return 0;
+}
+
+void ScanBlock(std::string_view block, ByteScan& scan)
+{
+    if (IsAscii(block)) {
+        return;
+    }
+    scan.hasHighBytes = true;
+    for (const char raw : block) {
+        const auto byte = static_cast<unsigned char>(raw);
+        if (byte >= 0x80) {
+            ++scan.highBytes[byte - 0x80U];
+        }
+    }
+    scan.validUtf8 =
+        scan.validUtf8 && QUtf8StringView(block.data(), static_cast<qsizetype>(block.size())).isValidUtf8();
+}
+
+ByteScan ScanBytes(QIODevice& file)
+{
+    ByteScan scan;
+    file.seek(0);
+    std::string block;
+    while (true) {
+        const std::size_t kept = block.size();
+        block.resize(kept + scanBlockSize);
+        const qint64 count = file.read(block.data() + kept, scanBlockSize);
+        if (count < 0) {
+            throw Error(gedcommessages::CannotRead(file.errorString()));
+        }
+        block.resize(kept + static_cast<std::size_t>(count));
+        const std::size_t tail = count == 0 ? 0 : IncompleteTail(block);
+        ScanBlock(std::string_view(block).substr(0, block.size() - tail), scan);
+        if (count == 0) {
+            return scan;
+        }
+        block.erase(0, block.size() - tail);
+    }
+}
+
+/// The value of the CHAR line below HEAD.
+QString DeclaredCharset(QByteArray head)
+{
+    QBuffer buffer(&head);
+    buffer.open(QIODevice::ReadOnly);
+    LineSource source(buffer, Charset::Utf8, 0);
+    GedcomLine line;
+    bool inHead = false;
+    while (ReadGedcomLine(source, line)) {
+        if (line.Level == '0') {
+            if (inHead) {
+                break;
+            }
+            inHead = SameText(line.Tag, "HEAD");
+        } else if (inHead && line.Level == '1' && SameText(line.Tag, "CHAR")) {
+            return QString::fromLatin1(line.Value.data(), static_cast<qsizetype>(line.Value.size()));
+        }
+    }
+    return {};
+}
+
+/// UTF-16 without a mark shows by its NUL bytes: nearly every second byte of a header is one.
+std::optional<Charset> WideCharset(const QByteArray& head)
+{
+    constexpr qsizetype sampleSize = 512;
+    const qsizetype size = std::min(head.size(), sampleSize) / 2 * 2;
+    qsizetype evenNuls = 0;
+    qsizetype oddNuls = 0;
+    for (qsizetype index = 0; index < size; index += 2) {
+        evenNuls += head[index] == '\0' ? 1 : 0;
+        oddNuls += head[index + 1] == '\0' ? 1 : 0;
+    }
+    if (evenNuls > size / 4 && oddNuls < size / 20) {
+        return Charset::Utf16BigEndian;
+    }
+    if (oddNuls > size / 4 && evenNuls < size / 20) {
+        return Charset::Utf16LittleEndian;
+    }
+    return std::nullopt;
+}
+
+/// Whether the file has letters that code page 850 has where 437 has drawing characters, Greek and the like.
+bool HasLettersOf850(const ByteScan& scan)
+{
+    const std::u16string_view dos437 = HighCharacters(Charset::Dos437);
+    const std::u16string_view dos850 = HighCharacters(Charset::Dos850);
+    for (std::size_t index = 0; index < scan.highBytes.size(); ++index) {
+        if (scan.highBytes[index] > 0 && dos437[index] != dos850[index] && QChar(dos850[index]).isLetter()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+Charset SingleByteCharset(const QString& declared, const ByteScan& scan)
+{
+    const auto names = [&declared](std::initializer_list<const char*> parts) {
+        return std::any_of(parts.begin(), parts.end(), [&declared](const char* part) {
+            return declared.contains(QLatin1String(part), Qt::CaseInsensitive);
+        });
+    };
+    if (names({"ANSEL"})) {
+        return Charset::Ansel;
+    }
+    if (names({"WINDOWS", "ANSI", "1252"})) {
+        return Charset::Windows1252;
+    }
+    if (names({"MACINTOSH", "MACROMAN", "MAC OS"})) {
+        return Charset::MacRoman;
+    }
+    if (names({"437"})) {
+        return Charset::Dos437;
+    }
+    if (names({"850"})) {
+        return Charset::Dos850;
+    }
+    if (names({"IBM", "DOS", "OEM"})) {
+        return HasLettersOf850(scan) ? Charset::Dos850 : Charset::Dos437;
+    }
+    return scan.hasHighBytes ? Charset::Windows1252 : Charset::Utf8;
+}
+
+void RefuseForeignFile(const QByteArray& head)
+{
+    if (head.isEmpty()) {
+        throw Error(gedcommessages::EmptyFile());
+    }
+    if (head.startsWith("PK\x03\x04")) {
+        throw Error(gedcommessages::ZipArchive());
+    }
+}
+
+} // namespace
+
+FileEncoding DetectEncoding(QIODevice& file)
+{
+    file.seek(0);
+    QByteArray head = file.read(headSize);
+    if (head.isEmpty() && file.size() > 0) {
+        throw Error(gedcommessages::CannotRead(file.errorString()));
+    }
+    RefuseForeignFile(head);
+    if (head.startsWith("\xEF\xBB\xBF")) {
+        return {Charset::Utf8, 3, {}};
+    }
+    if (head.startsWith("\xFF\xFE")) {
+        return {Charset::Utf16LittleEndian, 2, {}};
+    }
+    if (head.startsWith("\xFE\xFF")) {
+        return {Charset::Utf16BigEndian, 2, {}};
+    }
+    if (const std::optional<Charset> wide = WideCharset(head)) {
+        return {*wide, 0, {}};
+    }
+    if (head.count('\0') > head.size() / 20) {
+        throw Error(gedcommessages::BinaryFile());
+    }
+    const QString declared = DeclaredCharset(head);
+    if (declared.startsWith(u"UTF-8", Qt::CaseInsensitive) || declared.startsWith(u"UTF8", Qt::CaseInsensitive)) {
+        return {Charset::Utf8, 0, declared};
+    }
+    const ByteScan scan = ScanBytes(file);
+    if (scan.hasHighBytes && scan.validUtf8) {
+        return {Charset::Utf8, 0, declared};
+    }
+    return {SingleByteCharset(declared, scan), 0, declared};
+}
+
+} // namespace stemwright

@@ -1,0 +1,127 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "gedcom/importreport.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QStringList>
+
+namespace stemwright
+{
+
+namespace
+{
+
+/// How a kind of loss is named: the sentence of the report, which takes the number, and the key in JSON.
+struct LossWords {
+    Loss kind;
+    const char* sentence;
+    const char* key;
+};
+
+constexpr std::array<LossWords, lossKinds> lossWords = {
+    {{Loss::CutValue, "Values cut to 255 characters: %1", "cutValues"},
+     {Loss::SkippedRecord, "Records left out because their identifier is not a number: %1", "skippedRecords"},
+     {Loss::RepeatedValue, "Values and events left out because the same record has an earlier one: %1",
+      "repeatedValues"},
+     {Loss::NoColumnLeft, "Family events left out because the family file holds 20 kinds of them: %1",
+      "eventsWithoutColumn"}}};
+
+constexpr std::size_t notesShown = 10;
+
+QString NotesText(const LossList& list)
+{
+    QStringList parts;
+    for (const LossNote& note : list.notes) {
+        if (static_cast<std::size_t>(parts.size()) == notesShown) {
+            break;
+        }
+        parts << QStringLiteral("line %1 %2").arg(QString::number(note.line), note.subject);
+    }
+    const qint64 more = list.count - parts.size();
+    if (more > 0) {
+        parts << QStringLiteral("and %1 more").arg(more);
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+QJsonObject LossObject(const LossList& list)
+{
+    QJsonArray notes;
+    for (const LossNote& note : list.notes) {
+        notes.append(QJsonObject{{QStringLiteral("line"), note.line}, {QStringLiteral("subject"), note.subject}});
+    }
+    return {{QStringLiteral("count"), list.count}, {QStringLiteral("lines"), notes}};
+}
+
+QString OutcomeWord(ImportOutcome outcome)
+{
+    switch (outcome) {
+    case ImportOutcome::Failed:
+        return QStringLiteral("failed");
+    case ImportOutcome::StoppedAtDuplicate:
+        return QStringLiteral("stopped");
+    case ImportOutcome::Completed:
+        return QStringLiteral("completed");
+    }
+    return {};
+}
+
+} // namespace
+
+void ImportReport::note(Loss kind, qint64 line, std::string_view subject)
+{
+    constexpr qsizetype longestSubject = 80;
+    LossList& list = losses.at(static_cast<std::size_t>(kind));
+    ++list.count;
+    if (list.notes.size() < LossList::longest) {
+        const QString text = QString::fromUtf8(subject.data(), static_cast<qsizetype>(subject.size()));
+        list.notes.push_back({line, text.left(longestSubject)});
+    }
+}
+
+QString ReportText(const ImportReport& report)
+{
+    QStringList lines = {QStringLiteral("Individuals: %1").arg(report.individuals),
+                         QStringLiteral("Families: %1").arg(report.families),
+                         QStringLiteral("Links to children: %1").arg(report.childLinks),
+                         QStringLiteral("Links to spouses: %1").arg(report.spouseLinks)};
+    const bool declaredOtherwise =
+        !report.declaredCharset.isEmpty() && report.declaredCharset.compare(report.charset, Qt::CaseInsensitive) != 0;
+    lines << (declaredOtherwise
+                  ? QStringLiteral("Encoding: %1 (the file says %2)").arg(report.charset, report.declaredCharset)
+                  : QStringLiteral("Encoding: %1").arg(report.charset));
+    for (const LossWords& words : lossWords) {
+        const LossList& list = report.of(words.kind);
+        if (list.count > 0) {
+            lines << QString::fromLatin1(words.sentence).arg(list.count) + QStringLiteral(" (") + NotesText(list) +
+                         u')';
+        }
+    }
+    if (report.outcome == ImportOutcome::Completed && !report.hasTrailer) {
+        lines << QStringLiteral("The file has no TRLR record at its end: it may be only a part of what was exported.");
+    }
+    return lines.join(u'\n') + u'\n';
+}
+
+QByteArray ReportJson(const ImportReport& report)
+{
+    QJsonObject object{{QStringLiteral("outcome"), OutcomeWord(report.outcome)},
+                       {QStringLiteral("encoding"), report.charset},
+                       {QStringLiteral("declaredEncoding"), report.declaredCharset},
+                       {QStringLiteral("lines"), report.lines},
+                       {QStringLiteral("individuals"), report.individuals},
+                       {QStringLiteral("families"), report.families},
+                       {QStringLiteral("childLinks"), report.childLinks},
+                       {QStringLiteral("spouseLinks"), report.spouseLinks},
+                       {QStringLiteral("individualsSkipped"), report.skippedIndividuals},
+                       {QStringLiteral("familiesSkipped"), report.skippedFamilies},
+                       {QStringLiteral("hasTrailer"), report.hasTrailer}};
+    for (const LossWords& words : lossWords) {
+        object.insert(QString::fromLatin1(words.key), LossObject(report.of(words.kind)));
+    }
+    return QJsonDocument(object).toJson();
+}
+
+} // namespace stemwright

@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QString>
+
+#include <array>
+#include <vector>
+
+/// What a GEDCOM import did: how much it read, and every line whose text did not go into the family file whole. Plain
+/// values that nothing here can make fail.
+namespace stemwright
+{
+
+enum class ImportOutcome {
+    /// Nothing was changed.
+    Failed,
+    /// A duplicate identifier ended the import; what was read before it stays.
+    StoppedAtDuplicate,
+    Completed
+};
+
+/// Why a line's text is not in the family file, or not all of it.
+enum class Loss {
+    /// The value is longer than its column and was cut.
+    CutValue,
+    /// The record's identifier is missing or no number, so the record was left out.
+    SkippedRecord,
+    /// The record has a value for the same column before this one; the first is kept.
+    RepeatedValue,
+    /// A family event for which no column pair is left.
+    NoColumnLeft
+};
+
+inline constexpr std::size_t lossKinds = 4;
+
+struct LossNote {
+    qint64 line = 0;
+    /// The tag, or the identifier of a skipped record.
+    QString subject;
+};
+
+/// The lines of one kind of loss. The first ones are kept, all are counted.
+struct LossList {
+    static constexpr std::size_t longest = 1000;
+
+    qint64 count = 0;
+    std::vector<LossNote> notes;
+};
+
+struct ImportReport {
+    ImportOutcome outcome = ImportOutcome::Failed;
+    QString charset;
+    QString declaredCharset;
+    qint64 lines = 0;
+    qint64 individuals = 0;
+    qint64 families = 0;
+    qint64 childLinks = 0;
+    qint64 spouseLinks = 0;
+    qint64 skippedIndividuals = 0;
+    qint64 skippedFamilies = 0;
+    /// Whether the file has its TRLR record; one without may be only a part of what was exported.
+    bool hasTrailer = false;
+    std::array<LossList, lossKinds> losses;
+
+    const LossList& of(Loss kind) const { return losses.at(static_cast<std::size_t>(kind)); }
+
+    void note(Loss kind, qint64 line, std::string_view subject);
+};
+
+/// The report as lines of text for the user, each ended by a line break. Of each kind of loss the first lines are
+/// named.
+QString ReportText(const ImportReport& report);
+
+/// The report as a JSON document.
+QByteArray ReportJson(const ImportReport& report);
+
+} // namespace stemwright

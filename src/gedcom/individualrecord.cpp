@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "gedcom/individualrecord.h"
+
+#include <array>
+
+namespace stemwright
+{
+
+namespace
+{
+
+struct StandardEvent {
+    std::string_view tag;
+    std::string_view label;
+};
+
+/// The events that have no columns of their own and are kept as custom facts.
+constexpr std::array<StandardEvent, 13> standardEvents = {{{"ADOP", "Adoption"},
+                                                           {"BAPM", "Baptism"},
+                                                           {"BARM", "Bar Mitzvah"},
+                                                           {"BURI", "Burial"},
+                                                           {"CHR", "Christening"},
+                                                           {"CONF", "Confirmation"},
+                                                           {"EDUC", "Education"},
+                                                           {"EMIG", "Emigration"},
+                                                           {"IMMI", "Immigration"},
+                                                           {"MIGR", "Migration"},
+                                                           {"NATU", "Naturalization"},
+                                                           {"OCCU", "Occupation"},
+                                                           {"RESI", "Residence"}}};
+
+const StandardEvent* StandardEventOf(std::string_view tag)
+{
+    const auto* event = std::find_if(standardEvents.begin(), standardEvents.end(),
+                                     [tag](const StandardEvent& candidate) { return SameText(candidate.tag, tag); });
+    return event == standardEvents.end() ? nullptr : event;
+}
+
+QString ToText(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+} // namespace
+
+IndividualRecord::IndividualRecord(RowWriter& row, RowWriter& spouseLinks, CustomFacts& facts, ColumnText& text)
+    : RowRecord(row, facts, text), m_columns{row.column(u"Surname"), row.column(u"GivenName"), row.column(u"Suffix"),
+                                             row.column(u"Sex"),     row.column(u"Alias"),     row.column(u"Title"),
+                                             row.column(u"Address"), row.column(u"Phone"),     row.column(u"FAMC")},
+      m_birth{"BIRT", {}, {}, row.column(u"BIRT_Date"), row.column(u"BIRT_Place")},
+      m_death{"DEAT", {}, {}, row.column(u"DEAT_Date"), row.column(u"DEAT_Place")}, m_spouseLinks(spouseLinks),
+      m_spouseColumn(spouseLinks.column(u"SpouseId")), m_familyColumn(spouseLinks.column(u"FamId"))
+{
+}
+
+void IndividualRecord::begin(const GedcomLine& line)
+{
+    RowRecord::begin(line);
+    m_address.clear();
+    m_families.clear();
+}
+
+void IndividualRecord::takeField(const GedcomLine& line)
+{
+    switch (PackTag(line.Tag)) {
+    case PackTag("NAME"):
+        takeName(line);
+        return;
+    case PackTag("SEX"):
+        setField(m_columns.sex, line);
+        return;
+    case PackTag("ALIA"):
+    case PackTag("NICK"):
+        setField(m_columns.alias, line);
+        return;
+    case PackTag("TITL"):
+        setField(m_columns.title, line);
+        return;
+    case PackTag("PHON"):
+        setField(m_columns.phone, line);
+        return;
+    case PackTag("ADDR"):
+        takeLines(m_address, line);
+        return;
+    case PackTag("FAMS"):
+        m_families.push_back(XrefToNumber(line.Value));
+        return;
+    case PackTag("FAMC"):
+        setNumber(m_columns.familyOfParents, line);
+        return;
+    case PackTag("BIRT"):
+    case PackTag("DEAT"):
+    case PackTag("EVEN"):
+        openEvent();
+        return;
+    default:
+        break;
+    }
+    if (const StandardEvent* event = StandardEventOf(line.Tag)) {
+        facts().forTag(event->tag, event->label);
+        openEvent();
+    } else if (IsCustomFactTag(line.Tag)) {
+        openEvent();
+    }
+}
+
+void IndividualRecord::takeName(const GedcomLine& line)
+{
+    if (row().isFilled(m_columns.givenName) || row().isFilled(m_columns.surname) || row().isFilled(m_columns.suffix)) {
+        text().report().note(Loss::RepeatedValue, line.number, line.Tag);
+        return;
+    }
+    const GedcomName name = SplitGedcomName(text().decode(line.Value));
+    row().setText(m_columns.surname, text().cut(name.Surname, line.Tag, line.number));
+    row().setText(m_columns.givenName, text().cut(name.GivenName, line.Tag, line.number));
+    row().setText(m_columns.suffix, text().cut(name.Suffix, line.Tag, line.number));
+}
+
+void IndividualRecord::storeEvent()
+{
+    const std::string_view tag = eventTag();
+    if (SameText(tag, "BIRT")) {
+        setEvent(m_birth);
+    } else if (SameText(tag, "DEAT")) {
+        setEvent(m_death);
+    } else if (SameText(tag, "EVEN")) {
+        if (event().type.hasContent()) {
+            setEvent(facts().forLabel(text().fit(event().type.bytes(), "TYPE", event().type.line())));
+        }
+    } else if (const StandardEvent* standard = StandardEventOf(tag)) {
+        setEvent(facts().forTag(standard->tag, standard->label));
+    } else {
+        setCustomFact();
+    }
+}
+
+RowResult IndividualRecord::finish()
+{
+    closeEvent();
+    setContinued(m_columns.address, m_address, "ADDR");
+    if (row().write() == RowResult::KeyExists) {
+        return RowResult::KeyExists;
+    }
+    ++text().report().individuals;
+    for (const int family : m_families) {
+        m_spouseLinks.setInteger(m_spouseColumn, id());
+        m_spouseLinks.setInteger(m_familyColumn, family);
+        m_spouseLinks.write();
+        ++text().report().spouseLinks;
+    }
+    return RowResult::Written;
+}
+
+QString IndividualRecord::surname()
+{
+    return ToText(row().text(m_columns.surname));
+}
+
+QString IndividualRecord::givenName()
+{
+    return ToText(row().text(m_columns.givenName));
+}
+
+} // namespace stemwright

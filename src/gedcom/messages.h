@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/talk.h"
+
+/// The texts of the GEDCOM import, word for word: messages first, then the reasons that errors carry.
+namespace stemwright::gedcommessages
+{
+
+FileRequest SelectGedcomFile(const QString& folder);
+Message CreatingBackup();
+Message FileConflict(const QString& newPath, const QString& storedPath);
+Message DuplicateIndividual(int id, const QString& surname, const QString& givenName);
+Message DuplicateFamily(int id);
+Message ImportFailed(const QString& reason);
+
+inline const QString progressTitle = QStringLiteral("Import Progress");
+inline const QString progressCaption = QStringLiteral("Importing GEDCOM file");
+
+QString CannotOpen(const QString& path, const QString& reason);
+QString NotAFile(const QString& path);
+QString CannotRead(const QString& reason);
+QString EmptyFile();
+QString ZipArchive();
+QString BinaryFile();
+QString NoRecords();
+QString NoColumnsFor(const QString& stem, const QString& label, qint64 line);
+
+} // namespace stemwright::gedcommessages

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "gedcom/charset.h"
+
+#include "base/error.h"
+#include "base/files.h"
+#include "gedcom/ansel.h"
+#include "gedcom/encoding.h"
+#include "gedcom/treedump.h"
+#include "support/testworld.h"
+
+#include <QtCore/QDir>
+
+#include <gtest/gtest.h>
+
+namespace stemwright::test
+{
+
+namespace
+{
+
+FileEncoding Detect(QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return DetectEncoding(buffer);
+}
+
+QByteArray Headed(const QByteArray& declared, const QByteArray& name)
+{
+    return "0 HEAD\n1 CHAR " + declared + "\n0 @I1@ INDI\n1 NAME " + name + "\n0 TRLR\n";
+}
+
+} // namespace
+
+TEST(Ansel, MovesMarksBehindTheirLettersAndComposes)
+{
+    const std::vector<std::pair<const char*, const char16_t*>> cases = {
+        {"plain", u"plain"},
+        {"\xE2"
+         "e\xE8u",
+         u"\u00E9\u00FC"},
+        {"\xA1\xB1\xA2\xB2\xC7\xCF", u"\u0141\u0142\u00D8\u00F8\u00DF\u00DF"},
+        {"\xE3\xE2"
+         "a",
+         u"\u1EA5"},
+        {"\xF2\xE3"
+         "o",
+         u"\u1ED9"},
+        {"\xEBi\xECo", u"i\uFE20o\uFE21"},
+        {"\xBE\xBF\xCD\xCE\xFCo", u"\u25A1\u25A0eoo\u0338"},
+        {"a\xE2\r\nb", u"\u00E1\r\nb"},
+        {"x\xE2", u"x\u0301"},
+        {"\x80\xDF", u"\u20AC\u00DF"},
+    };
+    for (const auto& [bytes, expected] : cases) {
+        EXPECT_EQ(DecodeAnsel(bytes), QString::fromUtf16(expected)) << bytes;
+    }
+}
+
+/// The files names-*.ged hold one tree in one encoding and with one line end each.
+TEST(Charset, ReadsOneTreeAlikeFromEveryEncoding)
+{
+    const QDir folder(TestData(QStringLiteral("gedcom")));
+    const QStringList files = folder.entryList({QStringLiteral("names-*.ged")});
+    ASSERT_EQ(files.size(), 15);
+    const QString expected = QString::fromUtf8(ReadWholeFile(folder.filePath(QStringLiteral("names.txt"))));
+    for (const QString& file : files) {
+        ImportedTree tree(ReadWholeFile(folder.filePath(file)));
+        EXPECT_EQ(tree.dump(), expected) << file.toStdString() << " as " << tree.report.charset.toStdString();
+    }
+}
+
+TEST(Charset, BelievesTheHeaderWhereTheBytesBearItOut)
+{
+    const std::vector<std::tuple<const char*, const char*, Charset>> cases = {
+        {"IBMPC", "Jos\x82", Charset::Dos437},
+        {"IBMPC", "S\x9Bren", Charset::Dos850},
+        {"IBM WINDOWS", "Jos\xE9", Charset::Windows1252},
+        {"IBMPC", "Jos\xC3\xA9", Charset::Utf8},
+        {"OEM", "\xB5nna", Charset::Dos850},
+        {"ANSEL",
+         "Jos\xE2"
+         "e",
+         Charset::Ansel},
+        {"ansi", "Jos\xE9", Charset::Windows1252},
+        {"ASCII", "Jos\xE9", Charset::Windows1252},
+        {"ASCII", "Jose", Charset::Utf8},
+        {"UTF-8", "Jos\xE9", Charset::Utf8},
+        {"UNICODE", "Jos\xE9", Charset::Windows1252},
+        {"MACINTOSH", "Jos\x8E", Charset::MacRoman}};
+    for (const auto& [declared, name, charset] : cases) {
+        EXPECT_EQ(Detect(Headed(declared, name)).charset, charset) << declared << ' ' << name;
+    }
+}
+
+TEST(Charset, FindsUtf8AcrossTheBlocksOfALargeFile)
+{
+    QByteArray file = Headed("ANSEL", "x");
+    // An odd number of bytes in front makes a two-byte character stand across every block's end.
+    file += (file.size() % 2 == 0 ? "1" : "1 ") + QByteArray("NOTE ");
+    for (int count = 0; count < 300'000; ++count) {
+        file += "\xC3\xA9";
+    }
+    EXPECT_EQ(Detect(file).charset, Charset::Utf8);
+    EXPECT_EQ(Detect(file + '\xE9').charset, Charset::Ansel);
+}
+
+TEST(Charset, LosesNoTextOfAFileThatIsNotTheUtf8ItClaims)
+{
+    ImportedTree tree("0 HEAD\n1 CHAR UTF-8\n0 @I1@ INDI\n1 NAME Ren\xC3\xA9\n1 TITL Ren\xE9\n0 TRLR\n");
+    EXPECT_TRUE(tree.dump().contains(QStringLiteral("GivenName=[René] Suffix=[] Title=[René]")))
+        << tree.dump().toStdString();
+}
+
+TEST(Charset, JoinsLinesBeforeDecoding)
+{
+    ImportedTree tree("0 HEAD\n1 CHAR UTF-8\n0 @I1@ INDI\n1 BIRT\n2 PLAC Ren\xC3\n3 CONC \xA9ville\n0 TRLR\n");
+    EXPECT_TRUE(tree.dump().contains(QStringLiteral("BIRT_Place=[Renéville]"))) << tree.dump().toStdString();
+}
+
+TEST(Charset, RefusesWhatIsNoText)
+{
+    for (const QByteArray& bytes : {QByteArray(), QByteArray("PK\x03\x04 0 HEAD\n"), QByteArray(1000, '\0'),
+                                    QByteArray("\x7F"
+                                               "ELF\0\0\0\0\0\1\2\3\n0 HEAD\n",
+                                               21)}) {
+        EXPECT_THROW(Detect(bytes), Error) << bytes.left(8).toStdString();
+    }
+}
+
+} // namespace stemwright::test

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "gedcom/importcommand.h"
+
+#include "gedcom/treedump.h"
+#include "store/file/copyfamilyfile.h"
+#include "support/testworld.h"
+
+#include <QtCore/QFileInfo>
+
+#include <gtest/gtest.h>
+
+namespace stemwright::test
+{
+
+namespace
+{
+
+class ImportCommand : public testing::Test
+{
+protected:
+    bool import(const QString& name, const QByteArray& lines)
+    {
+        return ImportGedcomFile(file, world.write(name, "0 HEAD\n0 @I1@ INDI\n" + lines + "0 TRLR\n"),
+                                world.environment, report);
+    }
+
+    /// The GenInfo row and the names of the individuals.
+    QString state()
+    {
+        Statement row = file.connection().prepare(
+            QStringLiteral("SELECT GEDCOMFile, ImportDate, (SELECT group_concat(GivenName) FROM Indi) FROM GenInfo"));
+        row.step();
+        return QStringList{QFileInfo(row.text(0)).fileName(), row.text(1), row.text(2)}.join(u'|');
+    }
+
+    bool hasBackup() const { return QFileInfo::exists(BackupPath(file.path())); }
+
+    TestWorld world;
+    FamilyFile& file = world.newFamilyFile();
+    ImportReport report;
+};
+
+} // namespace
+
+TEST_F(ImportCommand, FirstImportMakesNoBackupAndAsksNothing)
+{
+    EXPECT_TRUE(import(QStringLiteral("a.ged"), "1 NAME Ann\n"));
+    EXPECT_EQ(state(), QStringLiteral("a.ged|2026-03-12T12:00:00|Ann"));
+    EXPECT_FALSE(hasBackup());
+    EXPECT_EQ(world.settings.value(setting::gedcom, setting::gedcomPath),
+              QFileInfo(world.path(QStringLiteral("a.ged"))).path());
+    EXPECT_EQ(world.talk.captions(), QStringList{QStringLiteral("Importing GEDCOM file")});
+}
+
+TEST_F(ImportCommand, SecondImportOfTheSameFileBacksUpAndAsksNothing)
+{
+    ASSERT_TRUE(import(QStringLiteral("a.ged"), "1 NAME Ann\n"));
+    file.connection().execute(QStringLiteral("INSERT INTO Pic2Person (PicId, PersId) VALUES (1, 1)"));
+    world.talk.expect(QStringLiteral("Creating Backup Family File"));
+    EXPECT_TRUE(import(QStringLiteral("a.ged"), "1 NAME Bea\n"));
+    EXPECT_EQ(state(), QStringLiteral("a.ged|2026-03-12T12:00:00|Bea"));
+    EXPECT_EQ(file.connection().countRows(QStringLiteral("Pic2Person")), 1);
+    FamilyFile backup;
+    ASSERT_TRUE(OpenFamilyFile(backup, BackupPath(file.path()), world.environment));
+    EXPECT_TRUE(DumpTree(backup.connection()).contains(QStringLiteral("GivenName=[Ann]")));
+}
+
+TEST_F(ImportCommand, AnotherFileIsAskedAbout)
+{
+    ASSERT_TRUE(import(QStringLiteral("a.ged"), "1 NAME Ann\n"));
+    const QString before = state();
+    for (const Button answer : {Button::No, Button::Yes}) {
+        world.talk.expect(QStringLiteral("Creating Backup Family File"));
+        world.talk.expect(QStringLiteral("Potential GEDCOM File Conflict"), answer);
+        EXPECT_EQ(import(QStringLiteral("b.ged"), "1 NAME Bea\n"), answer == Button::Yes);
+        EXPECT_EQ(state() == before, answer == Button::No);
+        EXPECT_TRUE(hasBackup());
+    }
+    const Message& conflict = world.talk.shown().back();
+    EXPECT_EQ(conflict.preset, Button::No);
+    EXPECT_TRUE(conflict.text.contains(QStringLiteral("b.ged\nThe current family file already contains \n")));
+    EXPECT_TRUE(conflict.text.contains(QStringLiteral("a.ged.\nIf the new GEDCOM file")));
+}
+
+TEST_F(ImportCommand, AFailureLeavesTreeAndNoteAsTheyWere)
+{
+    ASSERT_TRUE(import(QStringLiteral("a.ged"), "1 NAME Ann\n"));
+    const QString before = state();
+    world.talk.expect(QStringLiteral("Creating Backup Family File"));
+    world.talk.expect(QStringLiteral("Potential GEDCOM File Conflict"), Button::Yes);
+    world.talk.expect(QStringLiteral("The GEDCOM file has more kinds of events"));
+    EXPECT_FALSE(import(QStringLiteral("b.ged"), "1 NAME Bea\n1 _FA77\n2 DATE 1900\n"));
+    EXPECT_EQ(state(), before);
+    world.talk.expect(QStringLiteral("Cannot open the GEDCOM file"));
+    EXPECT_FALSE(ImportGedcomFile(file, world.path(QStringLiteral("none.ged")), world.environment, report));
+    EXPECT_EQ(state(), before);
+}
+
+TEST_F(ImportCommand, ADuplicateKeepsWhatWasReadAndTheNote)
+{
+    world.talk.expect(QStringLiteral("Your GEDCOM file has a duplicate entry for individual ID # 1"));
+    EXPECT_FALSE(import(QStringLiteral("a.ged"), "1 NAME Ann\n0 @I1@ INDI\n1 NAME Bea\n"));
+    EXPECT_EQ(report.outcome, ImportOutcome::StoppedAtDuplicate);
+    EXPECT_EQ(state(), QStringLiteral("a.ged|2026-03-12T12:00:00|Ann"));
+}
+
+TEST_F(ImportCommand, AsksForAFileInTheFolderOfTheLastOne)
+{
+    world.settings.setValue(setting::gedcom, setting::gedcomPath, QStringLiteral("/trees"));
+    world.talk.expectInput(QStringLiteral("Select GEDCOM file"), QStringLiteral("/trees/x.ged"));
+    EXPECT_EQ(ChooseGedcomFile(world.environment), QStringLiteral("/trees/x.ged"));
+}
+
+} // namespace stemwright::test

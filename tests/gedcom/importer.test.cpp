@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "gedcom/importer.h"
+
+#include "base/error.h"
+#include "base/files.h"
+#include "gedcom/familyrecord.h"
+#include "gedcom/treedump.h"
+#include "support/testworld.h"
+
+#include <gtest/gtest.h>
+
+namespace stemwright::test
+{
+
+namespace
+{
+
+/// A file with `events` below one individual or family.
+QByteArray Record(const QByteArray& tag, const QByteArray& lines)
+{
+    return "0 HEAD\n0 @I1@ " + tag + '\n' + lines + "0 TRLR\n";
+}
+
+QString Value(Connection& connection, const QString& sql)
+{
+    Statement statement = connection.prepare(sql);
+    return statement.step() ? statement.text(0) : QString();
+}
+
+/// An individual with events of `count` different types.
+QByteArray ManyEvents(const QByteArray& tag, int count)
+{
+    QByteArray lines;
+    for (int number = 1; number <= count; ++number) {
+        lines += "1 EVEN\n2 TYPE Event " + QByteArray::number(number) + "\n2 DATE 1900\n";
+    }
+    return Record(tag, lines);
+}
+
+} // namespace
+
+TEST(Importer, FillsEveryTable)
+{
+    ImportedTree tree(ReadWholeFile(TestData(QStringLiteral("gedcom/facts.ged"))));
+    EXPECT_EQ(tree.dump(), QString::fromUtf8(ReadWholeFile(TestData(QStringLiteral("gedcom/facts.txt")))));
+    EXPECT_EQ(QString::fromUtf8(ReportJson(tree.report)),
+              QString::fromUtf8(ReadWholeFile(TestData(QStringLiteral("gedcom/facts.report.json")))));
+    EXPECT_FALSE(tree.duplicate);
+}
+
+TEST(Importer, TakesTheSchemaRecordOfLevelZeroAsTheOneInTheHead)
+{
+    ImportedTree tree(
+        "0 HEAD\n0 _SCHEMA\n1 INDI\n2 _FA1\n3 LABL Burial\n2 _FA3\n3 LABL Gap\n1 FAM\n2 _FA1\n3 LABL Vow\n"
+        "0 @I1@ INDI\n1 BURI\n2 DATE 1900\n1 CHR\n2 DATE 1850\n1 CONF\n2 DATE 1860\n");
+    EXPECT_EQ(tree.dump(), QStringLiteral("Indi\n Id=[1] _FA1_Date=[1900] _FA4_Date=[1850] _FA5_Date=[1860]\n"
+                                          "Fam\nFam2Child\nSpouse2Fam\n"
+                                          "SchemaIndi\n Fact=[_FA1] Tag=[BURI] Label=[Burial]\n"
+                                          " Fact=[_FA3] Tag=[] Label=[Gap]\n"
+                                          " Fact=[_FA4] Tag=[CHR] Label=[Christening]\n"
+                                          " Fact=[_FA5] Tag=[CONF] Label=[Confirmation]\n"
+                                          "SchemaFam\n Fact=[_FA1] Label=[Vow]\n"));
+}
+
+TEST(Importer, StopsAtADuplicateAndKeepsWhatStoodBefore)
+{
+    struct DuplicateCase {
+        const char* records;
+        const char* message;
+    };
+
+    const QByteArray first = "0 HEAD\n0 @I1@ INDI\n1 NAME Ann /Ash/\n1 FAMS @F1@\n0 @F1@ FAM\n1 CHIL @I1@\n";
+    for (const DuplicateCase& expected : std::vector<DuplicateCase>{
+             {"0 @U1@ INDI\n1 NAME Bob /%1/ Jr\n1 FAMS @F2@\n",
+              "Your GEDCOM file has a duplicate entry for individual ID # 1 (%1, Bob ). Please click OK, correct the "
+              "condition and import the GEDCOM again."},
+             {"0 @F01@ FAM\n1 CHIL @I2@\n",
+              "Your GEDCOM file has a duplicate entry for family ID # 1. Please click OK, correct the condition and "
+              "import the GEDCOM again."}}) {
+        ImportedTree tree(first + expected.records + "0 @I5@ INDI\n");
+        ASSERT_TRUE(tree.duplicate) << expected.records;
+        EXPECT_EQ(tree.duplicate->text, QString::fromUtf8(expected.message));
+        EXPECT_EQ(tree.dump(), QStringLiteral("Indi\n Id=[1] Surname=[Ash] GivenName=[Ann ] Suffix=[]\nFam\n Id=[1]\n"
+                                              "Fam2Child\n FamId=[1] ChildId=[1]\nSpouse2Fam\n SpouseId=[1] FamId=[1]\n"
+                                              "SchemaIndi\nSchemaFam\n"));
+    }
+}
+
+TEST(Importer, CutsLongValuesAtACharacterAndSaysWhere)
+{
+    struct CutCase {
+        QByteArray value;
+        QString kept;
+        int cuts;
+    };
+
+    const QByteArray filler(254, 'x');
+    const QString keptFiller = QString::fromLatin1(filler);
+    for (const CutCase& expected :
+         std::vector<CutCase>{{filler + "y", keptFiller + u'y', 0},
+                              {filler + "\xC3\xA9", keptFiller + u'\u00E9', 0},
+                              {filler + "\xC3\xA9z", keptFiller + u'\u00E9', 1},
+                              {filler + "e\xCC\x81", keptFiller, 1},
+                              {filler + "\xF0\x9F\x98\x80z", keptFiller + QStringLiteral("\U0001F600"), 1},
+                              {QByteArray(10'000'000, 'y'), QString(255, u'y'), 1}}) {
+        ImportedTree tree(Record("INDI", "1 TITL " + expected.value + "\n"));
+        EXPECT_EQ(Value(tree.connection, QStringLiteral("SELECT Title FROM Indi")), expected.kept);
+        const LossList& cuts = tree.report.of(Loss::CutValue);
+        ASSERT_EQ(cuts.count, expected.cuts) << expected.value.right(5).toStdString();
+        if (expected.cuts > 0) {
+            EXPECT_EQ(cuts.notes.front().line, 3);
+            EXPECT_EQ(cuts.notes.front().subject, QStringLiteral("TITL"));
+        }
+    }
+}
+
+TEST(Importer, EndsWhenAnIndividualsEventsNeedMoreColumnsThanThereAre)
+{
+    EXPECT_EQ(ImportedTree(ManyEvents("INDI", 50)).report.individuals, 1);
+    EXPECT_THROW(ImportedTree(ManyEvents("INDI", 51)), Error);
+    EXPECT_THROW(ImportedTree(Record("INDI", "1 _FA51\n2 DATE 1900\n")), Error);
+    EXPECT_EQ(ImportedTree(Record("INDI", "1 _FA51\n2 NOTE no value\n")).report.individuals, 1);
+}
+
+TEST(Importer, KeepsColumnsForPartnershipsWhenAFamilyHasManyEvents)
+{
+    QByteArray file = ManyEvents("FAM", 25);
+    file.replace("0 TRLR\n", "1 DIV\n1 EVEN\n2 TYPE Partners\n");
+    ImportedTree tree(file);
+    EXPECT_EQ(tree.report.of(Loss::NoColumnLeft).count, 7);
+    EXPECT_EQ(Value(tree.connection, QStringLiteral("SELECT _FA19_Place || _FA20_Place FROM Fam")),
+              QStringLiteral("DivorcedPartners"));
+}
+
+TEST(Importer, TellsThePartnershipFromTheType)
+{
+    const std::vector<std::pair<const char*, const char*>> cases = {{"Partners", "Partners"},
+                                                                    {"domestic partners", "domestic partners"},
+                                                                    {"VENDOR:REL_PARTNERS", "Partners"},
+                                                                    {"Friends Begin", "Friends"},
+                                                                    {"Beginning status", "Beginning status"},
+                                                                    {"Single - begin", "Single"},
+                                                                    {"Partnership", ""},
+                                                                    {"Copartners", ""},
+                                                                    {"Settlement", ""}};
+    for (const auto& [type, status] : cases) {
+        EXPECT_EQ(PartnershipStatus(type), status) << type;
+    }
+}
+
+TEST(Importer, JoinsConcLinesAsTheyWereSplit)
+{
+    const std::vector<std::pair<const char*, const char*>> cases = {{"2 PLAC Spring\n3 CONC field\n", "Springfield"},
+                                                                    {"2 PLAC New \n3 CONC York\n", "New York"},
+                                                                    {"2 PLAC New\n3 CONC  York\n", "New York"},
+                                                                    {"2 PLAC A,\n3 CONC  B,\n", "A, B"},
+                                                                    {"2 PLAC A,\n3 CONC ,B\n", "A,B"},
+                                                                    {"2 PLAC A\n3 CONT B\n3 CONC C\n", "A\r\nBC"},
+                                                                    {"2 PLAC A\n2 NOTE x\n3 CONT B\n", "A"},
+                                                                    {"2 PLAC A\n\n3 CONT B\n", "A\r\nB"}};
+    for (const auto& [lines, place] : cases) {
+        ImportedTree tree(Record("INDI", QByteArray("1 BIRT\n") + lines));
+        EXPECT_EQ(Value(tree.connection, QStringLiteral("SELECT BIRT_Place FROM Indi")), QString::fromUtf8(place))
+            << lines;
+    }
+}
+
+TEST(Importer, MovesTheBarAtTheEndOfRecordsByTheHundred)
+{
+    const auto record = [](int lines) {
+        QByteArray text = "0 @N1@ NOTE\n";
+        for (int line = 1; line < lines; ++line) {
+            text += "1 CONT 7\n";
+        }
+        return text;
+    };
+    EXPECT_EQ(ImportedTree("0 HEAD\n" + record(99)).progress.percents, std::vector<int>{});
+    EXPECT_EQ(ImportedTree(record(5000)).progress.percents.size(), 1U);
+    // 1842 bytes in all. The first record ends when the second's line was read, at byte 933, which is 896 in whole
+    // blocks; the last one at 1792.
+    EXPECT_EQ(ImportedTree(record(102) + record(102)).progress.percents, (std::vector<int>{48, 97}));
+}
+
+TEST(Importer, LeavesTheOldTreeWhenItFails)
+{
+    const std::vector<std::pair<QByteArray, QString>> cases = {
+        {QByteArray(), QStringLiteral("The GEDCOM file is empty")},
+        {"PK\x03\x04", QStringLiteral("This is a ZIP archive")},
+        {"\xEF\xBB\xBFjunk", QStringLiteral("This is not a GEDCOM file: no record")},
+        {QByteArray(5000, '\0'), QStringLiteral("This is not a GEDCOM file but binary")},
+        {ManyEvents("INDI", 51), QStringLiteral("The GEDCOM file has more kinds of events")}};
+    for (const auto& [content, reason] : cases) {
+        TestWorld world;
+        Connection& connection = world.newFamilyFile().connection();
+        ImportReport report;
+        const QString good = world.write(QStringLiteral("good.ged"), Record("INDI", "1 NAME Old /Tree/\n1 BURI\n"));
+        ASSERT_TRUE(ImportGedcom(connection, good, world.environment, report));
+        const QString before = DumpTree(connection);
+        world.talk.expect(reason);
+        EXPECT_FALSE(
+            ImportGedcom(connection, world.write(QStringLiteral("bad.ged"), content), world.environment, report));
+        EXPECT_EQ(report.outcome, ImportOutcome::Failed);
+        EXPECT_EQ(DumpTree(connection), before);
+    }
+}
+
+TEST(Importer, SaysWhyAFileCannotBeOpened)
+{
+    TestWorld world;
+    Connection& connection = world.newFamilyFile().connection();
+    ImportReport report;
+    world.talk.expect(QStringLiteral("Cannot open the GEDCOM file"));
+    EXPECT_FALSE(ImportGedcom(connection, world.path(QStringLiteral("missing.ged")), world.environment, report));
+    world.talk.expect(world.path({}) + QStringLiteral(" is not a file"));
+    EXPECT_FALSE(ImportGedcom(connection, world.path({}), world.environment, report));
+}
+
+TEST(Importer, IndexesTheTables)
+{
+    ImportedTree tree(Record("INDI", {}));
+    EXPECT_EQ(
+        Value(tree.connection, QStringLiteral("SELECT group_concat(name, ' ') FROM (SELECT name FROM sqlite_master "
+                                              "WHERE type = 'index' AND sql NOT NULL ORDER BY name)")),
+        QStringLiteral("Fam2Child_FamId SchemaIndi_Tag Spouse2Fam_SpouseId"));
+}
+
+} // namespace stemwright::test
