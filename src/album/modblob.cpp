@@ -3,6 +3,7 @@
 #include "album/modblob.h"
 
 #include "base/error.h"
+#include "base/files.h"
 #include "store/engine/schema.h"
 
 #include <QtCore/QDir>
@@ -174,7 +175,8 @@ void SaveFieldToFile(Connection& connection, const BlobField& field, const QStri
             FailWith(cannotWrite, file);
         }
     } catch (const std::exception&) {
-        file.remove();
+        file.close();
+        DiscardFile(fileName);
         throw;
     }
 }

@@ -149,8 +149,15 @@ void WriteWholeFile(const QString& path, const QByteArray& content)
     }
     if (!WriteAll(descriptor, content) || !descriptor.close()) {
         const int error = errno;
-        QFile::remove(path);
+        DiscardFile(path);
         FailWith(cannotWrite, path, error);
+    }
+}
+
+void DiscardFile(const QString& path)
+{
+    if (QFileInfo(path).isFile()) {
+        QFile::remove(path);
     }
 }
 

@@ -20,6 +20,10 @@ QByteArray ReadWholeFile(const QString& path);
 /// read-only folder); what was written so far is then removed.
 void WriteWholeFile(const QString& path, const QByteArray& content);
 
+/// Removes what was written of a file that did not become whole. Only a plain file is removed: a device, which a user may
+/// well name as a target, stays.
+void DiscardFile(const QString& path);
+
 /// Puts the finished file `from` in the place of `to` (same folder) in one step and makes the change durable: after a
 /// power cut either the old or the new file stands there. Throws Error, and `to` is then as it was.
 void ReplaceFile(const QString& from, const QString& to);

@@ -6,6 +6,8 @@
 #include "base/files.h"
 #include "support/testworld.h"
 
+#include <QtCore/QFile>
+
 #include <gtest/gtest.h>
 
 namespace stemwright::test
@@ -89,7 +91,10 @@ TEST(ModBlob, FailuresAreTold)
     EXPECT_THROW(LoadFileIntoField(connection, world.path(QStringLiteral("missing")), picture), Error);
     EXPECT_THROW(LoadFileIntoField(connection, in, {picture.table, picture.column, 99}), Error);
     LoadFileIntoField(connection, in, picture);
-    EXPECT_THROW(SaveFieldToFile(connection, picture, QStringLiteral("/dev/full")), Error);
+    const QString full = world.path(QStringLiteral("full"));
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), full));
+    EXPECT_THROW(SaveFieldToFile(connection, picture, full), Error);
+    EXPECT_TRUE(QFile::exists(full));
     EXPECT_THROW(SaveFieldToFile(connection, picture, world.path(QStringLiteral("no/out"))), Error);
     EXPECT_THROW(SaveFieldToFile(connection, {picture.table, picture.column, 99}, world.path(QStringLiteral("out"))),
                  Error);

@@ -35,12 +35,21 @@ TEST(Files, WritesWholeFilesOrNone)
     EXPECT_EQ(ReadWholeFile(path), content);
     EXPECT_THROW(WriteWholeFile(folder.filePath(QStringLiteral("no/such")), content), Error);
     EXPECT_THROW(ReadWholeFile(folder.filePath(QStringLiteral("none"))), Error);
+}
+
+/// The device is named by a link, so that a test that fails removes no more than that.
+TEST(Files, AFullDiskIsToldAndADeviceStays)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("full"));
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), path));
     try {
-        WriteWholeFile(QStringLiteral("/dev/full"), content);
+        WriteWholeFile(path, "x");
         ADD_FAILURE() << "a full disk was not noticed";
     } catch (const Error& error) {
-        EXPECT_TRUE(error.text().contains(QStringLiteral("/dev/full"))) << error.text().toStdString();
+        EXPECT_TRUE(error.text().contains(path)) << error.text().toStdString();
     }
+    EXPECT_TRUE(QFile::exists(path));
 }
 
 TEST(Files, CreatesEveryMissingFolder)
