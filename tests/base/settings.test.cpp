@@ -33,8 +33,8 @@ TEST(Settings, WhatCannotBeKeptIsLostWithoutAnError)
     FileSettings settings(folder.filePath(QStringLiteral("file/s.ini")));
     settings.setValue(setting::gedcom, setting::gedcomPath, QStringLiteral("/tmp"));
     EXPECT_TRUE(settings.value(setting::gedcom, setting::gedcomPath).isEmpty());
-    WriteWholeFile(folder.filePath(QStringLiteral("damaged.ini")),
-                   QByteArray("\xFF\xFE[\0\n=%%%\n[GEDCOM\nGedcomPath", 30));
+    constexpr char damaged[] = "\xFF\xFE[\0\n=%%%\n[GEDCOM\nGedcomPath";
+    WriteWholeFile(folder.filePath(QStringLiteral("damaged.ini")), QByteArray(damaged, sizeof damaged - 1));
     EXPECT_TRUE(FileSettings(folder.filePath(QStringLiteral("damaged.ini")))
                     .value(setting::gedcom, setting::gedcomPath)
                     .isEmpty());
