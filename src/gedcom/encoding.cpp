@@ -3,6 +3,7 @@
 #include "gedcom/encoding.h"
 
 #include "base/error.h"
+#include "gedcom/importreport.h"
 #include "gedcom/messages.h"
 #include "gedcom/reader.h"
 
@@ -94,7 +95,7 @@ QString DeclaredCharset(QByteArray head)
             }
             inHead = SameText(line.Tag, "HEAD");
         } else if (inHead && line.Level == '1' && SameText(line.Tag, "CHAR")) {
-            return QString::fromLatin1(line.Value.data(), static_cast<qsizetype>(line.Value.size()));
+            return ReportedText(line.Value);
         }
     }
     return {};

@@ -122,7 +122,7 @@ void TreeImport::beginRecord(const GedcomLine& line)
     m_anyRecord = m_anyRecord || kind != RecordKind::Other || isTrailer || line.hasXref;
     if (line.hasXref && line.XrefId < 0) {
         // The identifier stands where the tag should be, and the tag is the first word behind it.
-        skip(KindOf(line.Value.substr(0, line.Value.find(' '))), line, line.Tag);
+        skip(KindOf(line.Value.substr(0, line.Value.find_first_of(" \t"))), line, line.Tag);
     } else if (!line.hasXref && (kind == RecordKind::Individual || kind == RecordKind::Family)) {
         skip(kind, line, line.Tag);
     } else {

@@ -72,13 +72,24 @@ QString OutcomeWord(ImportOutcome outcome)
 
 void ImportReport::note(Loss kind, qint64 line, std::string_view subject)
 {
-    constexpr qsizetype longestSubject = 80;
     LossList& list = losses.at(static_cast<std::size_t>(kind));
     ++list.count;
     if (list.notes.size() < LossList::longest) {
-        const QString text = QString::fromUtf8(subject.data(), static_cast<qsizetype>(subject.size()));
-        list.notes.push_back({line, text.left(longestSubject)});
+        list.notes.push_back({line, ReportedText(subject)});
     }
+}
+
+QString ReportedText(std::string_view utf8)
+{
+    constexpr qsizetype longest = 80;
+    QString text =
+        QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.substr(0, 4 * longest).size())).left(longest);
+    for (QChar& character : text) {
+        if (!character.isPrint() && !character.isSurrogate()) {
+            character = QChar::ReplacementCharacter;
+        }
+    }
+    return text;
 }
 
 QString ReportText(const ImportReport& report)

@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 
 #include <array>
+#include <string_view>
 #include <vector>
 
 /// What a GEDCOM import did: how much it read, and every line whose text did not go into the family file whole. Plain
@@ -67,6 +68,10 @@ struct ImportReport {
 
     void note(Loss kind, qint64 line, std::string_view subject);
 };
+
+/// Text from a GEDCOM file (UTF-8) as a report shows it: its beginning, on one line, with nothing that a terminal would
+/// obey.
+QString ReportedText(std::string_view utf8);
 
 /// The report as lines of text for the user, each ended by a line break. Of each kind of loss the first lines are
 /// named.
