@@ -20,6 +20,9 @@ QByteArray ReadWholeFile(const QString& path);
 /// read-only folder); what was written so far is then removed.
 void WriteWholeFile(const QString& path, const QByteArray& content);
 
+/// Appends to a file that WriteWholeFile() has begun; fails in the same way.
+void AppendToFile(const QString& path, const QByteArray& content);
+
 /// Puts the finished file `from` in the place of `to` (same folder) in one step and makes the change durable: after a
 /// power cut either the old or the new file stands there. Throws Error, and `to` is then as it was.
 void ReplaceFile(const QString& from, const QString& to);
