@@ -29,8 +29,7 @@ std::optional<TreePosition> Find(std::span<const std::int32_t> ids, int id)
 
 } // namespace
 
-TreeLinks::TreeLinks(std::size_t owners, const std::vector<Link>& links)
-    : m_begin(owners + 1, 0), m_items(links.size())
+TreeLinks::TreeLinks(std::size_t owners, const std::vector<Link>& links) : m_begin(owners + 1, 0), m_items(links.size())
 {
     for (const Link& link : links) {
         ++m_begin[link.owner + 1];

@@ -77,7 +77,10 @@ public:
     std::span<const TreePosition> children(TreePosition family) const { return m_children.of(family); }
 
     /// The individuals who name the family as their parents' (Indi.FAMC), in the order of their ids.
-    std::span<const TreePosition> childrenByParents(TreePosition family) const { return m_childrenByParents.of(family); }
+    std::span<const TreePosition> childrenByParents(TreePosition family) const
+    {
+        return m_childrenByParents.of(family);
+    }
 
     /// The family that the individual names as the parents', or `nowhere`; it may lack a record.
     TreePosition parentFamily(TreePosition individual) const { return m_parentFamilies[individual]; }

@@ -9,7 +9,8 @@ namespace stemwright
 {
 
 /// Writes the one page of a CollapsiTree: all descendants of the head, each individual's family in a block that the
-/// visitor opens and closes. Throws Error when the template is missing or the page cannot be written. Stands on the walk.
+/// visitor opens and closes. Throws Error when the template is missing or the page cannot be written. Stands on the
+/// walk.
 void WriteCollapsiTree(const SiteRun& run, const PublishedTree& tree, StepProgress& progress);
 
 } // namespace stemwright

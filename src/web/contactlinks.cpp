@@ -35,8 +35,7 @@ void AppendContactLinks(std::string& page, const SiteRun& run, TreePosition pers
         AppendMailLink(page, contact->email1, "Send Email to This Person's 1st Address");
         AppendMailLink(page, contact->email2, "Send Email to This Person's 2nd Address");
     } else if (!contact->email1.empty() || !contact->email2.empty()) {
-        AppendMailLink(page, contact->email1.empty() ? contact->email2 : contact->email1,
-                       "Send Email to This Person");
+        AppendMailLink(page, contact->email1.empty() ? contact->email2 : contact->email1, "Send Email to This Person");
     }
     if (!contact->webPage.empty()) {
         page.append("<A HREF=\"");

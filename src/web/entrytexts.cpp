@@ -63,8 +63,8 @@ void AppendItem(std::string& page, const PublishedItem& item, std::string_view v
 
 bool IsStatus(std::string_view value, QLatin1StringView status)
 {
-    return QLatin1StringView(value.data(), static_cast<qsizetype>(value.size()))
-               .compare(status, Qt::CaseInsensitive) == 0;
+    return QLatin1StringView(value.data(), static_cast<qsizetype>(value.size())).compare(status, Qt::CaseInsensitive) ==
+           0;
 }
 
 } // namespace

@@ -8,8 +8,9 @@
 namespace stemwright
 {
 
-/// Appends the items that follow the name: those that the setup shows in trees, in their order, without the private ones
-/// of protected persons. A spouse's line has the family's items as well, a child's those of the link to its parents.
+/// Appends the items that follow the name: those that the setup shows in trees, in their order, without the private
+/// ones of protected persons. A spouse's line has the family's items as well, a child's those of the link to its
+/// parents.
 void AppendEntryItems(std::string& page, const SiteRun& run, const TreeWalk& walk, const TreeEntry& entry);
 
 /// The entry's name, plain UTF-8.

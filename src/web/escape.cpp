@@ -149,7 +149,8 @@ void AppendEncoded(std::string& page, std::string_view utf8, std::string_view ke
 bool StartsWith(std::string_view text, std::string_view start)
 {
     const QLatin1StringView head(text.data(), static_cast<qsizetype>(std::min(text.size(), start.size())));
-    return head.compare(QLatin1StringView(start.data(), static_cast<qsizetype>(start.size())), Qt::CaseInsensitive) == 0;
+    return head.compare(QLatin1StringView(start.data(), static_cast<qsizetype>(start.size())), Qt::CaseInsensitive) ==
+           0;
 }
 
 } // namespace

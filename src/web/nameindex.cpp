@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "web/nameindex.h"
 
+#include "base/text.h"
 #include "web/contactlinks.h"
 #include "web/escape.h"
 #include "web/pagefile.h"
@@ -37,8 +38,7 @@ public:
     explicit IndexWriter(const SiteRun& run) : m_run(run)
     {
         m_index.begin(run.file("NameIndex.html"));
-        page().append(
-            FillTemplate(ReadTemplate(run.application.file(QStringLiteral("html/nameindextop.html"))), {}));
+        page().append(FillTemplate(ReadTemplate(run.application.file(QStringLiteral("html/nameindextop.html"))), {}));
         if (run.settings.personalPages) {
             m_personalTop = PersonalPageTop(run.application);
         }
@@ -104,7 +104,7 @@ std::vector<TreePosition> PersonsInIndexOrder(const SiteRun& run)
     for (TreePosition person = 0; person < run.tree.individuals(); ++person) {
         if (run.isOnSite(person)) {
             const QString name = QString::fromStdString(run.names.indexName(person));
-            sorted.push_back({name.toCaseFolded().toUtf8(), TextAfterName(run, person), person});
+            sorted.push_back({CollationKey(name), TextAfterName(run, person), person});
         }
     }
     // Positions are in the order of the ids.

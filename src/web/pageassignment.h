@@ -53,9 +53,9 @@ struct WalkLimits {
 /// the children, each child with all its descendants.
 ///
 /// Everybody has one main entry. It is the first one as an individual, so that nobody's descendants are lost, or, for
-/// who is only ever met as a spouse, the first one as a spouse. All others are duplicates; their children are not walked
-/// again, which also ends the walk at an ancestor who is his own descendant. The walk does not recurse: lines of descent
-/// may be as long as they like.
+/// who is only ever met as a spouse, the first one as a spouse. All others are duplicates; their children are not
+/// walked again, which also ends the walk at an ancestor who is his own descendant. The walk does not recurse: lines of
+/// descent may be as long as they like.
 class TreeWalk
 {
 public:
@@ -73,10 +73,7 @@ public:
     bool opensPage(EntryNumber entry) const { return m_entries[entry].page == entry; }
 
     /// Who owns the page that holds the main entry of a person of this tree.
-    TreePosition pageOwner(TreePosition person) const
-    {
-        return m_entries[m_entries[m_mainEntry[person]].page].person;
-    }
+    TreePosition pageOwner(TreePosition person) const { return m_entries[m_entries[m_mainEntry[person]].page].person; }
 
     /// The families that have no record, each once, in the order in which the walk met them.
     const std::vector<TreePosition>& missingFamilies() const { return m_missingFamilies; }

@@ -110,8 +110,8 @@ private:
         line("<BR>");
     }
 
-    /// How the page names another person: with links where that person has a page of his own, without a name where he or
-    /// she must not be named.
+    /// How the page names another person: with links where that person has a page of his own, without a name where he
+    /// or she must not be named.
     std::string personLink(TreePosition person) const
     {
         std::string link(" ");
@@ -239,8 +239,8 @@ private:
     /// The table of a family's status facts or of its events.
     void writeFamilyItems(TreePosition family, TreePosition partner, ItemKind kind)
     {
-        const bool isProtected = m_run.privacy.isProtected(m_person) ||
-                                 (partner != nowhere && m_run.privacy.isProtected(partner));
+        const bool isProtected =
+            m_run.privacy.isProtected(m_person) || (partner != nowhere && m_run.privacy.isProtected(partner));
         bool open = false;
         for (const PublishedItem& item : m_run.texts.items()) {
             if (item.table != ItemTable::Family || item.kind != kind || (item.isPrivate && isProtected)) {

@@ -6,8 +6,8 @@
 
 #include <string>
 
-/// How persons are called on a site. All texts are plain UTF-8, not yet escaped. Nothing here fails. Stands on the texts
-/// of a run.
+/// How persons are called on a site. All texts are plain UTF-8, not yet escaped. Nothing here fails. Stands on the
+/// texts of a run.
 namespace stemwright
 {
 

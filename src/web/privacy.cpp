@@ -22,10 +22,10 @@ Privacy::Privacy(const FamilyTree& tree, const SiteTexts& texts, ProtectedPerson
     : m_hides(handling == ProtectedPersons::Hidden), m_protected(tree.individuals(), false)
 {
     for (TreePosition individual = 0; individual < tree.individuals(); ++individual) {
-        m_protected[individual] = IsPrivacyProtected(texts.individual(individual, individualcolumn::birthDate),
-                                                     texts.individual(individual, individualcolumn::deathDate),
-                                                     texts.individual(individual, individualcolumn::deathPlace),
-                                                     maxPrivacyAge, currentYear);
+        m_protected[individual] =
+            IsPrivacyProtected(texts.individual(individual, individualcolumn::birthDate),
+                               texts.individual(individual, individualcolumn::deathDate),
+                               texts.individual(individual, individualcolumn::deathPlace), maxPrivacyAge, currentYear);
     }
     if (m_hides) {
         hideDescendants(tree);

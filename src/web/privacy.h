@@ -9,8 +9,8 @@
 namespace stemwright
 {
 
-/// The privacy test. Protected is who has neither a death date nor a death place (Null, not empty) and a birth date that
-/// ends in a year from which no more than `maxPrivacyAge` calendar years have passed.
+/// The privacy test. Protected is who has neither a death date nor a death place (Null, not empty) and a birth date
+/// that ends in a year from which no more than `maxPrivacyAge` calendar years have passed.
 bool IsPrivacyProtected(std::optional<std::string_view> birthDate, std::optional<std::string_view> deathDate,
                         std::optional<std::string_view> deathPlace, int maxPrivacyAge, int currentYear);
 

@@ -44,9 +44,15 @@ ColumnList& ColumnsOf(ItemTable table, RunColumns& columns)
 
 std::optional<PublishedItem> Resolve(const SelectedItem& item, RunColumns& columns)
 {
-    PublishedItem published{item.name.toStdString(),       item.source,   TableOf(item),  KindOf(item),
-                            item.inTree,                   item.isPrivate, item.beforeItem.toStdString(),
-                            item.beforePlace.toStdString(), item.afterItem.toStdString()};
+    PublishedItem published{item.name.toStdString(),
+                            item.source,
+                            TableOf(item),
+                            KindOf(item),
+                            item.inTree,
+                            item.isPrivate,
+                            item.beforeItem.toStdString(),
+                            item.beforePlace.toStdString(),
+                            item.afterItem.toStdString()};
     ColumnList& list = ColumnsOf(published.table, columns);
     if (published.kind != ItemKind::Event) {
         const std::optional<std::size_t> value = list.add(item.source);
@@ -72,9 +78,10 @@ ColumnList::ColumnList(const TableDefinition& table, const QStringList& alwaysRe
 
 std::optional<std::size_t> ColumnList::add(const QString& column)
 {
-    const auto known = std::find_if(
-        m_table.columns.begin(), m_table.columns.end(),
-        [&column](const ColumnDefinition& each) { return each.name.compare(column, Qt::CaseInsensitive) == 0; });
+    const auto known =
+        std::find_if(m_table.columns.begin(), m_table.columns.end(), [&column](const ColumnDefinition& each) {
+            return each.name.compare(column, Qt::CaseInsensitive) == 0;
+        });
     if (known == m_table.columns.end()) {
         return std::nullopt;
     }

@@ -19,7 +19,7 @@ RunSettings RunSettings::of(const Setup& setup, const Clock& clock)
 bool SiteRun::isOnSite(TreePosition person) const
 {
     return std::any_of(trees.begin(), trees.end(),
-                       [person](const PublishedTree& tree) { return tree.walk.mainEntry(person) != noEntry; });
+                       [person](const PublishedTree& each) { return each.walk.mainEntry(person) != noEntry; });
 }
 
 bool SiteRun::mayBeNamed(TreePosition person) const

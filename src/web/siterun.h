@@ -10,8 +10,8 @@
 #include "web/setup.h"
 #include "web/sitetexts.h"
 
-/// What the page writers of one publication share: the settings of the run, the family tree and its texts, and the trees
-/// that are on the site. It is handed to each of them; nothing about a run is kept elsewhere.
+/// What the page writers of one publication share: the settings of the run, the family tree and its texts, and the
+/// trees that are on the site. It is handed to each of them; nothing about a run is kept elsewhere.
 namespace stemwright
 {
 

@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-/// Templates: files of the application's folder that pages are made from, with placeholders such as $SiteTitle. They are
-/// bytes in the encoding of the pages. Reading throws Error; filling cannot fail. Stands on base.
+/// Templates: files of the application's folder that pages are made from, with placeholders such as $SiteTitle. They
+/// are bytes in the encoding of the pages. Reading throws Error; filling cannot fail. Stands on base.
 namespace stemwright
 {
 

@@ -25,8 +25,8 @@ constexpr std::array<Display, 4> displays = {{{QLatin1StringView("Outline"), "Ou
 /// What a display is called in the links to its entries.
 QLatin1StringView DisplayName(std::string_view prefix)
 {
-    const auto display = std::find_if(displays.begin(), displays.end(),
-                                      [prefix](const Display& each) { return each.prefix == prefix; });
+    const auto display =
+        std::find_if(displays.begin(), displays.end(), [prefix](const Display& each) { return each.prefix == prefix; });
     return display == displays.end() ? QLatin1StringView() : display->name;
 }
 

@@ -44,8 +44,7 @@ void WriteTreeList(const SiteRun& run)
 {
     PageFile file;
     file.begin(run.file("TreeList.html"));
-    file.bytes().append(
-        FillTemplate(ReadTemplate(run.application.file(QStringLiteral("html/treelisttop.html"))), {}));
+    file.bytes().append(FillTemplate(ReadTemplate(run.application.file(QStringLiteral("html/treelisttop.html"))), {}));
     for (const PublishedTree& tree : run.trees) {
         AppendRow(file, run, tree);
     }
