@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "index/familytree.h"
 
+#include <unordered_set>
+
 namespace stemwright
 {
 
@@ -27,10 +29,30 @@ std::optional<TreePosition> Find(std::span<const std::int32_t> ids, int id)
     return static_cast<TreePosition>(found - ids.begin());
 }
 
+/// The links without those that are there already.
+std::vector<TreeLinks::Link> WithoutRepeats(std::vector<TreeLinks::Link> links)
+{
+    const auto key = [](const TreeLinks::Link& link) {
+        constexpr unsigned positionBits = 32;
+        return std::uint64_t{link.owner} << positionBits | link.item;
+    };
+    std::vector<std::uint64_t> keys;
+    keys.reserve(links.size());
+    std::transform(links.begin(), links.end(), std::back_inserter(keys), key);
+    std::sort(keys.begin(), keys.end());
+    if (std::adjacent_find(keys.begin(), keys.end()) != keys.end()) {
+        std::unordered_set<std::uint64_t> seen;
+        std::erase_if(links, [&](const TreeLinks::Link& link) { return !seen.insert(key(link)).second; });
+    }
+    return links;
+}
+
 } // namespace
 
-TreeLinks::TreeLinks(std::size_t owners, const std::vector<Link>& links) : m_begin(owners + 1, 0), m_items(links.size())
+TreeLinks::TreeLinks(std::size_t owners, std::vector<Link> given) : m_begin(owners + 1, 0)
 {
+    const std::vector<Link> links = WithoutRepeats(std::move(given));
+    m_items.resize(links.size());
     for (const Link& link : links) {
         ++m_begin[link.owner + 1];
     }
@@ -105,7 +127,7 @@ void FamilyTree::loadParents(Connection& connection)
             links.push_back({family, individual});
         }
     }
-    m_childrenByParents = TreeLinks(m_familyIds.size(), links);
+    m_childrenByParents = TreeLinks(m_familyIds.size(), std::move(links));
 }
 
 void FamilyTree::loadChildren(Connection& connection)
@@ -119,7 +141,7 @@ void FamilyTree::loadChildren(Connection& connection)
             links.push_back({family, child});
         }
     }
-    m_children = TreeLinks(m_familyIds.size(), links);
+    m_children = TreeLinks(m_familyIds.size(), std::move(links));
 }
 
 void FamilyTree::loadSpouseFamilies(Connection& connection)
@@ -133,7 +155,7 @@ void FamilyTree::loadSpouseFamilies(Connection& connection)
             links.push_back({spouse, family});
         }
     }
-    m_spouseFamilies = TreeLinks(m_individualIds.size(), links);
+    m_spouseFamilies = TreeLinks(m_individualIds.size(), std::move(links));
 }
 
 TreePosition FamilyTree::positionOfIndividual(const std::optional<int>& id) const

@@ -32,8 +32,8 @@ public:
     };
 
     TreeLinks() = default;
-    /// Each owner's items keep the order in which they are given.
-    TreeLinks(std::size_t owners, const std::vector<Link>& links);
+    /// Each owner's items keep the order in which they are given. A link that is given again counts once.
+    TreeLinks(std::size_t owners, std::vector<Link> given);
 
     std::span<const TreePosition> of(TreePosition owner) const
     {

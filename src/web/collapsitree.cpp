@@ -39,10 +39,14 @@ public:
         for (EntryNumber number = 0; number < entries.size(); ++number) {
             const TreeEntry& entry = entries[number];
             progress.report([&] { return EntryName(m_run, entry); });
+            // A duplicate is one line without a block that could hold its spouses; they stand at the main entry.
+            if (entry.kind == EntryKind::Spouse && entryAt(entry.reachedFrom).isDuplicate) {
+                continue;
+            }
             closeBlocksAbove(entry.reachedFrom);
             if (entry.kind == EntryKind::Individual) {
                 writeIndividual(number);
-            } else if (!entryAt(entry.reachedFrom).isDuplicate) {
+            } else {
                 writeSpouse(entry);
             }
             m_file.checkpoint();

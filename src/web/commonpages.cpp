@@ -77,7 +77,9 @@ void Fill(const SiteRun& run, const QString& source, std::string_view target,
 
 void WriteCommonPages(const SiteRun& run, Connection& connection)
 {
-    const auto html = [&run](const char* name) { return run.application.file(QStringLiteral("html/") + QLatin1StringView(name)); };
+    const auto html = [&run](const char* name) {
+        return run.application.file(QStringLiteral("html/") + QLatin1StringView(name));
+    };
     const QString style = StyleFolder(run.setup.pageStyle, run.application) + u'/';
     WriteWholeFile(run.file("index.html"), ReadWholeFile(style + QStringLiteral("tree.html")));
     WriteWholeFile(run.file("left.html"), ReadWholeFile(style + QStringLiteral("left.html")));

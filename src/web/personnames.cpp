@@ -37,68 +37,51 @@ void AppendWords(std::string& name, std::string_view text, std::string_view sepa
     }
 }
 
-bool IsSource(const PublishedItem& item, QLatin1StringView column)
-{
-    return column.compare(item.source, Qt::CaseInsensitive) == 0;
-}
-
 } // namespace
 
 NameParts::NameParts(const SiteTexts& texts) : m_texts(texts)
 {
     for (const PublishedItem& item : texts.items()) {
         if (item.inTree && IsPartOfName(item)) {
-            m_title |= IsSource(item, QLatin1StringView("Title"));
-            m_givenName |= IsSource(item, QLatin1StringView("GivenName"));
-            m_surname |= IsSource(item, QLatin1StringView("Surname"));
-            m_suffix |= IsSource(item, QLatin1StringView("Suffix"));
+            m_shown[item.value] = true;
         }
     }
-    if (!m_title && !m_givenName && !m_surname && !m_suffix) {
-        m_givenName = true;
-        m_surname = true;
+    if (std::find(m_shown.begin(), m_shown.end(), true) == m_shown.end()) {
+        m_shown[individualcolumn::givenName] = true;
+        m_shown[individualcolumn::surname] = true;
     }
 }
 
 std::string NameParts::displayName(TreePosition individual) const
 {
-    std::string name;
-    const auto append = [this, &name, individual](bool shown, std::size_t column, std::string_view separator) {
-        if (shown) {
-            AppendWords(name, m_texts.individual(individual, column).value_or(""), separator);
-        }
-    };
-    append(m_title, individualcolumn::title, " ");
-    append(m_givenName, individualcolumn::givenName, " ");
-    append(m_surname, individualcolumn::surname, " ");
-    append(m_suffix, individualcolumn::suffix, ", ");
-    return name.empty() ? std::string(unknownPerson) : name;
+    return joined(individual, {{{individualcolumn::title, " "},
+                                {individualcolumn::givenName, " "},
+                                {individualcolumn::surname, " "},
+                                {individualcolumn::suffix, ", "}}});
 }
 
 std::string NameParts::indexName(TreePosition individual) const
 {
+    return joined(individual, {{{individualcolumn::surname, " "},
+                                {individualcolumn::givenName, ", "},
+                                {individualcolumn::suffix, " "},
+                                {individualcolumn::title, ", "}}});
+}
+
+std::string NameParts::joined(TreePosition individual, const std::array<Part, partCount>& parts) const
+{
     std::string name;
-    std::string_view separator = " ";
-    const auto append = [&](bool shown, std::size_t column) {
-        if (shown) {
-            const std::size_t before = name.size();
-            AppendWords(name, m_texts.individual(individual, column).value_or(""), separator);
-            separator = name.size() == before ? separator : " ";
+    for (const Part& part : parts) {
+        if (m_shown[part.column]) {
+            AppendWords(name, m_texts.individual(individual, part.column).value_or(""), part.separator);
         }
-    };
-    append(m_surname, individualcolumn::surname);
-    separator = ", ";
-    append(m_title, individualcolumn::title);
-    append(m_givenName, individualcolumn::givenName);
-    append(m_suffix, individualcolumn::suffix);
+    }
     return name.empty() ? std::string(unknownPerson) : name;
 }
 
 bool IsPartOfName(const PublishedItem& item)
 {
-    return item.kind == ItemKind::NamePart &&
-           (IsSource(item, QLatin1StringView("Title")) || IsSource(item, QLatin1StringView("GivenName")) ||
-            IsSource(item, QLatin1StringView("Surname")) || IsSource(item, QLatin1StringView("Suffix")));
+    return item.kind == ItemKind::NamePart && item.table == ItemTable::Individual && item.value < partCount;
 }
 
 std::string LifeYears(const SiteTexts& texts, TreePosition individual)
@@ -117,6 +100,13 @@ std::string Collapsed(std::string_view utf8)
     std::string text;
     AppendWords(text, utf8, " ");
     return text;
+}
+
+std::string TidyHeadName(const TreeDefinition& tree)
+{
+    constexpr std::string_view afterSurname = ", ";
+    const std::string name = Collapsed(tree.headName.toStdString());
+    return name.starts_with(afterSurname) ? name.substr(afterSurname.size()) : name;
 }
 
 } // namespace stemwright

@@ -116,7 +116,7 @@ private:
     void loadIndividuals()
     {
         const RunSettings settings = RunSettings::of(*m_setup, m_environment.clock);
-        m_texts = SiteTexts::load(m_connection, m_tree, *m_setup);
+        m_texts = SiteTexts::load(m_connection, m_tree, m_setup->items);
         m_privacy.emplace(m_tree, *m_texts, settings.protectedPersons, settings.maxPrivacyAge, settings.currentYear);
         m_names.emplace(*m_texts);
         m_run.emplace(SiteRun{
@@ -157,8 +157,7 @@ private:
         if (prefix == "Outline") {
             limits.generationsOnPage = m_run->settings.generationsOnPage;
         }
-        const std::string headName = Collapsed(definition.headName.toStdString());
-        m_run->trees.push_back({definition, prefix, headName, TreeWalk(m_tree, *m_privacy, head, limits)});
+        m_run->trees.push_back({definition, prefix, TidyHeadName(definition), TreeWalk(m_tree, *m_privacy, head, limits)});
         tellMissingFamilies(m_run->trees.back().walk);
     }
 

@@ -44,11 +44,11 @@ SiteTexts::SiteTexts(std::vector<PublishedItem> items, const RunColumns& columns
 {
 }
 
-SiteTexts SiteTexts::load(Connection& connection, const FamilyTree& tree, const Setup& setup)
+SiteTexts SiteTexts::load(Connection& connection, const FamilyTree& tree, const std::vector<SelectedItem>& items)
 {
     RunColumns columns = AlwaysRead();
-    std::vector<PublishedItem> items = ResolveItems(setup.items, columns);
-    SiteTexts texts(std::move(items), columns);
+    std::vector<PublishedItem> published = ResolveItems(items, columns);
+    SiteTexts texts(std::move(published), columns);
     Read(connection, QStringLiteral("Indi"), columns.individual, texts.m_individuals);
     Read(connection, QStringLiteral("Fam"), columns.family, texts.m_families);
     texts.loadChildren(connection, tree, columns);

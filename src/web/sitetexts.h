@@ -4,7 +4,7 @@
 
 #include "index/familytree.h"
 #include "web/publisheditem.h"
-#include "web/setup.h"
+#include "web/selecteditem.h"
 #include "web/texttable.h"
 
 #include <unordered_map>
@@ -48,7 +48,8 @@ struct Contact {
 class SiteTexts
 {
 public:
-    static SiteTexts load(Connection& connection, const FamilyTree& tree, const Setup& setup);
+    /// Reads the columns that these items and the rest need.
+    static SiteTexts load(Connection& connection, const FamilyTree& tree, const std::vector<SelectedItem>& items);
 
     /// The setup's items in their order.
     const std::vector<PublishedItem>& items() const { return m_items; }
