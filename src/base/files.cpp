@@ -121,6 +121,20 @@ void RemoveLeftovers(const QFileInfo& target)
     }
 }
 
+/// Opens the file with these flags and writes the content; a file that could not be written whole is removed.
+void WriteOut(const QString& path, int flags, const QByteArray& content)
+{
+    Descriptor descriptor(path, O_WRONLY | flags);
+    if (!descriptor.isOpen()) {
+        FailWith(cannotWrite, path, errno);
+    }
+    if (!WriteAll(descriptor, content) || !descriptor.close()) {
+        const int error = errno;
+        DiscardFile(path);
+        FailWith(cannotWrite, path, error);
+    }
+}
+
 } // namespace
 
 bool CreateFolderPath(const QString& path)
@@ -143,15 +157,12 @@ QByteArray ReadWholeFile(const QString& path)
 
 void WriteWholeFile(const QString& path, const QByteArray& content)
 {
-    Descriptor descriptor(path, O_WRONLY | O_CREAT | O_TRUNC);
-    if (!descriptor.isOpen()) {
-        FailWith(cannotWrite, path, errno);
-    }
-    if (!WriteAll(descriptor, content) || !descriptor.close()) {
-        const int error = errno;
-        DiscardFile(path);
-        FailWith(cannotWrite, path, error);
-    }
+    WriteOut(path, O_CREAT | O_TRUNC, content);
+}
+
+void AppendToFile(const QString& path, const QByteArray& content)
+{
+    WriteOut(path, O_APPEND, content);
 }
 
 void DiscardFile(const QString& path)

@@ -20,6 +20,9 @@ QByteArray ReadWholeFile(const QString& path);
 /// read-only folder); what was written so far is then removed.
 void WriteWholeFile(const QString& path, const QByteArray& content);
 
+/// Appends to a file that WriteWholeFile() has begun; fails in the same way.
+void AppendToFile(const QString& path, const QByteArray& content);
+
 /// Removes what was written of a file that did not become whole. Only a plain file is removed: a device, which a user may
 /// well name as a target, stays.
 void DiscardFile(const QString& path);

@@ -59,6 +59,9 @@ inline const QString picListQueries = QStringLiteral("PicListQueries");
 inline const QString defaultPicListQuery = QStringLiteral("DefaultPicListQuery");
 inline const QString gedcom = QStringLiteral("GEDCOM");
 inline const QString gedcomPath = QStringLiteral("GedcomPath");
+inline const QString exportWizard = QStringLiteral("ExportWizard");
+/// "0" when the dialog that ends a site build is not to be shown.
+inline const QString confirmScreen = QStringLiteral("ConfirmScreen");
 } // namespace setting
 
 } // namespace stemwright

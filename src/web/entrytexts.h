@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "web/siterun.h"
+
+/// The pieces that the lines of all tree displays are made of. Stands on the run.
+namespace stemwright
+{
+
+/// Appends the items that follow the name: those that the setup shows in trees, in their order, without the private
+/// ones of protected persons. A spouse's line has the family's items as well, a child's those of the link to its
+/// parents.
+void AppendEntryItems(std::string& page, const SiteRun& run, const TreeWalk& walk, const TreeEntry& entry);
+
+/// The entry's name, plain UTF-8.
+std::string EntryName(const SiteRun& run, const TreeEntry& entry);
+
+/// "Husband", "Wife", "Partner" or "Friend": what the spouse of a family is to the individual.
+std::string_view SpouseWord(const SiteRun& run, TreePosition family, TreePosition individual);
+
+/// Appends " <A HREF=...>(Duplicate: ...)</A>", which leads to the main entry of the same person.
+void AppendDuplicateLink(std::string& page, const SiteRun& run, const PublishedTree& tree, const TreeEntry& entry);
+
+/// Appends `count` times `text`.
+void AppendRepeated(std::string& page, int count, std::string_view text);
+
+} // namespace stemwright

@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/messages.h"
+
+#include <QtCore/QDir>
+
+namespace stemwright::webmessages
+{
+
+namespace
+{
+
+QString Native(const QString& path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+const QString supportAddress = QStringLiteral("support@stemwright.example");
+
+} // namespace
+
+QString BuildingWebPages()
+{
+    return QStringLiteral("Building Web Pages");
+}
+
+QString SavingTheSetup()
+{
+    return QStringLiteral("Saving the setup...");
+}
+
+QString Initializing()
+{
+    return QStringLiteral("Initializing...");
+}
+
+QString PreparingTheOutputFolder()
+{
+    return QStringLiteral("Preparing the output folder...");
+}
+
+QString CopyingStandardFiles()
+{
+    return QStringLiteral("Copying standard files to output folder...");
+}
+
+QString LoadingIndividuals()
+{
+    return QStringLiteral("Loading the list of individuals...");
+}
+
+QString EntryOf(const QString& display, const QString& headName)
+{
+    return QStringLiteral("%1 for: %2. Entry of:").arg(display, headName);
+}
+
+QString BuildingIndex()
+{
+    return QStringLiteral("Building index of names:");
+}
+
+QString BuildingIndexAndPersonalPages()
+{
+    return QStringLiteral("Building index of names and personal pages:");
+}
+
+QString WritingCommonPages()
+{
+    return QStringLiteral("Writing the list of trees and the common pages...");
+}
+
+Message OutputFolderDoesNotExist(const QString& folder)
+{
+    return {{},
+            QStringLiteral("The output folder %1 does not exist.\n\nClick OK to create the folder, Cancel otherwise.")
+                .arg(Native(folder)),
+            Icon::Question,
+            {Button::Ok, Button::Cancel},
+            Button::Ok};
+}
+
+Message CannotCreateFolder(const QString& folder)
+{
+    return {{},
+            QStringLiteral("Cannot create folder %1\n\nClick OK, then click < Back and provide a different path.")
+                .arg(Native(folder)),
+            Icon::Critical};
+}
+
+Message OutputFolderHoldsFiles(const QString& folder)
+{
+    return {{},
+            QStringLiteral("There are already some files in the output folder %1\n\n"
+                           "Click OK to delete all those files, Cancel otherwise.")
+                .arg(Native(folder)),
+            Icon::Question,
+            {Button::Ok, Button::Cancel},
+            Button::Cancel};
+}
+
+QString NoOutputFolder()
+{
+    return QStringLiteral("The setup names no output folder. Please choose the folder for the web pages.");
+}
+
+QString IsNotAFolder(const QString& path)
+{
+    return QStringLiteral("The output folder %1 is a file. Please choose another folder.").arg(Native(path));
+}
+
+QString IsRootFolder(const QString& folder)
+{
+    return QStringLiteral("%1 is the root of the file system. Please choose a folder that holds nothing but the site.")
+        .arg(Native(folder));
+}
+
+QString HoldsHomeFolder(const QString& folder)
+{
+    return QStringLiteral("The output folder %1 is or holds your home folder. Please choose a folder that holds nothing"
+                          " but the site.")
+        .arg(Native(folder));
+}
+
+QString HoldsFamilyFile(const QString& folder)
+{
+    return QStringLiteral("The output folder %1 holds a family file or a backup of one. Please choose a folder that"
+                          " holds nothing but the site.")
+        .arg(Native(folder));
+}
+
+QString IsApplicationFolder(const QString& folder)
+{
+    return QStringLiteral("The output folder %1 is or holds a part of Stemwright itself. Please choose another folder.")
+        .arg(Native(folder));
+}
+
+QString CannotDeleteFile(const QString& path)
+{
+    return QStringLiteral("Cannot delete file %1.").arg(Native(path));
+}
+
+QString CannotCreateGraphicsFolder(const QString& folder)
+{
+    return QStringLiteral("Cannot create folder %1.").arg(Native(folder));
+}
+
+Message FamilylessAncestor(const QString& name)
+{
+    return {QStringLiteral("Family-less Ancestor"),
+            QStringLiteral("Can't build the tree because the selected ancestor, %1\nhas no families. \n"
+                           "Click OK to continue building web pages, Cancel to abort the operation")
+                .arg(name),
+            Icon::Warning,
+            {Button::Ok, Button::Cancel},
+            Button::Cancel};
+}
+
+Message MissingFamilyRecord(int familyId)
+{
+    return {QStringLiteral("Missing family record"),
+            QStringLiteral("Error: Could not find family record # %1\nPlease check your GEDCOM file for line\n"
+                           "0 @F%1@ FAM\nIf that line is missing, then your GEDCOM file is corrupt "
+                           "and you must re-create it; otherwise please email that file to %2")
+                .arg(familyId)
+                .arg(supportAddress),
+            Icon::Warning};
+}
+
+Message MoreMissingFamilyRecords(std::size_t count)
+{
+    return {QStringLiteral("Missing family record"),
+            QStringLiteral("%1 more family records could not be found.").arg(count), Icon::Warning};
+}
+
+Message DisplayNotAvailable(const QString& display, const QString& headName)
+{
+    return {QStringLiteral("Display not available"),
+            QStringLiteral("The tree of %1 is left out of the site: this release cannot draw the display \"%2\".\n"
+                           "Please choose \"Outline\" or \"CollapsiTree\" for it.")
+                .arg(headName, display),
+            Icon::Warning};
+}
+
+QString NoSuchTreeHead(const QString& headName, int id)
+{
+    return QStringLiteral("The tree head %1 (number %2) is not in the family tree. Please choose another tree head.")
+        .arg(headName)
+        .arg(id);
+}
+
+QString NothingToBuild()
+{
+    return QStringLiteral("None of the setup's trees can be built.");
+}
+
+Message ProposeTreeHead(const QString& name, int id, std::size_t descendants)
+{
+    return {
+        QStringLiteral("No tree head"),
+        QStringLiteral("The family tree to publish has no head yet. The individual with the most descendants (%3) is"
+                       " %1, number %2.\nClick Yes to make this individual the tree head.")
+            .arg(name)
+            .arg(id)
+            .arg(descendants),
+        Icon::Question,
+        {Button::Yes, Button::No},
+        Button::No};
+}
+
+QString NoTreeHeadChosen(const QString& setupName)
+{
+    return QStringLiteral("Nothing was published, because setup \"%1\" has a tree without a head. Please name the"
+                          " individual with --head, or answer the question with Yes (--yes).")
+        .arg(setupName);
+}
+
+QString NoFamilies()
+{
+    return QStringLiteral("Nothing was published, because the family tree has no families. Please import a GEDCOM file"
+                          " first.");
+}
+
+QString TreesHaveHeads(const QString& setupName)
+{
+    return QStringLiteral("All trees of setup \"%1\" have other heads already. Please change them with setup tree.")
+        .arg(setupName);
+}
+
+Message WebPagesCreated(const QString& folder)
+{
+    return {QStringLiteral("Web Pages Created"),
+            QStringLiteral("Your web pages have been created. To view them, click 'View My Web Pages'\n\n"
+                           "Alternatively, you can open Windows Explorer, navigate to folder:\n%1\n"
+                           "and double-click index.html.")
+                .arg(Native(folder)),
+            Icon::Information};
+}
+
+Message CannotBuild(const QString& reason)
+{
+    return {BuildingWebPages(), reason, Icon::Critical};
+}
+
+} // namespace stemwright::webmessages

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/talk.h"
+
+/// The texts that building a web site shows, word for word.
+namespace stemwright::webmessages
+{
+
+// The progress window.
+QString BuildingWebPages();
+QString SavingTheSetup();
+QString Initializing();
+QString PreparingTheOutputFolder();
+QString CopyingStandardFiles();
+QString LoadingIndividuals();
+QString EntryOf(const QString& display, const QString& headName);
+QString BuildingIndex();
+QString BuildingIndexAndPersonalPages();
+QString WritingCommonPages();
+
+// The output folder.
+Message OutputFolderDoesNotExist(const QString& folder);
+Message CannotCreateFolder(const QString& folder);
+Message OutputFolderHoldsFiles(const QString& folder);
+/// Whole sentences for what keeps a folder from being an output folder.
+QString NoOutputFolder();
+QString IsNotAFolder(const QString& path);
+QString IsRootFolder(const QString& folder);
+QString HoldsHomeFolder(const QString& folder);
+QString HoldsFamilyFile(const QString& folder);
+QString IsApplicationFolder(const QString& folder);
+QString CannotDeleteFile(const QString& path);
+QString CannotCreateGraphicsFolder(const QString& folder);
+
+// The trees.
+Message FamilylessAncestor(const QString& name);
+Message MissingFamilyRecord(int familyId);
+Message MoreMissingFamilyRecords(std::size_t count);
+Message DisplayNotAvailable(const QString& display, const QString& headName);
+QString NoSuchTreeHead(const QString& headName, int id);
+QString NothingToBuild();
+
+// The choice of a head.
+Message ProposeTreeHead(const QString& name, int id, std::size_t descendants);
+QString NoTreeHeadChosen(const QString& setupName);
+QString NoFamilies();
+QString TreesHaveHeads(const QString& setupName);
+
+// The end.
+Message WebPagesCreated(const QString& folder);
+Message CannotBuild(const QString& reason);
+
+} // namespace stemwright::webmessages

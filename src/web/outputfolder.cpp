@@ -1,0 +1,119 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/outputfolder.h"
+
+#include "base/error.h"
+#include "base/files.h"
+#include "web/messages.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+namespace stemwright
+{
+
+namespace
+{
+
+/// The path without links, also of a folder that does not exist yet.
+QString Resolved(const QString& path)
+{
+    const QFileInfo info(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    if (info.exists()) {
+        return info.canonicalFilePath();
+    }
+    if (info.isRoot()) {
+        return info.filePath();
+    }
+    const QString parent = Resolved(info.path());
+    return (parent.endsWith(u'/') ? parent : parent + u'/') + info.fileName();
+}
+
+/// Whether `inner` is `outer` or stands below it.
+bool Contains(const QString& outer, const QString& inner)
+{
+    return inner == outer || inner.startsWith(outer.endsWith(u'/') ? outer : outer + u'/');
+}
+
+/// Links count as the files that they are: deleting one leaves alone what it leads to.
+QFileInfoList FilesOf(const QString& folder)
+{
+    QFileInfoList files;
+    for (const QFileInfo& entry : QDir(folder).entryInfoList(QDir::Files | QDir::System, QDir::Name)) {
+        if (entry.isFile() || entry.isSymLink()) {
+            files << entry;
+        }
+    }
+    return files;
+}
+
+bool HoldsFamilyFiles(const QString& folder)
+{
+    const QStringList patterns = {QStringLiteral("*.kvf"), QStringLiteral("*.kvf-*"), QStringLiteral("*.ffb")};
+    return !QDir(folder).entryList(patterns, QDir::Files | QDir::Hidden).isEmpty();
+}
+
+void RequireSuitable(const QString& folder, const ProtectedPlaces& places)
+{
+    if (folder.trimmed().isEmpty()) {
+        throw Error(webmessages::NoOutputFolder());
+    }
+    const QString resolved = Resolved(folder);
+    if (QFileInfo(resolved).isRoot()) {
+        throw Error(webmessages::IsRootFolder(folder));
+    }
+    const QFileInfo info(resolved);
+    if (info.exists() && !info.isDir()) {
+        throw Error(webmessages::IsNotAFolder(folder));
+    }
+    const QString application = Resolved(places.applicationFolder);
+    if (Contains(resolved, application) ||
+        (Contains(application, resolved) && !Contains(Resolved(places.pagesFolder), resolved))) {
+        throw Error(webmessages::IsApplicationFolder(folder));
+    }
+    if (Contains(resolved, Resolved(places.homeFolder))) {
+        throw Error(webmessages::HoldsHomeFolder(folder));
+    }
+    if (Contains(resolved, Resolved(places.familyFile)) || HoldsFamilyFiles(resolved)) {
+        throw Error(webmessages::HoldsFamilyFile(folder));
+    }
+}
+
+bool Create(const QString& folder, Talk& talk)
+{
+    if (talk.ask(webmessages::OutputFolderDoesNotExist(folder)) != Button::Ok) {
+        return false;
+    }
+    if (!CreateFolderPath(folder)) {
+        talk.tell(webmessages::CannotCreateFolder(folder));
+        return false;
+    }
+    return true;
+}
+
+bool Empty(const QString& folder, Talk& talk)
+{
+    const QFileInfoList files = FilesOf(folder);
+    if (files.isEmpty()) {
+        return true;
+    }
+    if (talk.ask(webmessages::OutputFolderHoldsFiles(folder)) != Button::Ok) {
+        return false;
+    }
+    for (const QFileInfo& file : files) {
+        if (!QFile::remove(file.filePath())) {
+            throw Error(webmessages::CannotDeleteFile(file.filePath()));
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+bool PrepareOutputFolder(const QString& folder, const ProtectedPlaces& places, Talk& talk)
+{
+    RequireSuitable(folder, places);
+    return QFileInfo::exists(folder) ? Empty(folder, talk) : Create(folder, talk);
+}
+
+} // namespace stemwright

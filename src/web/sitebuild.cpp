@@ -1,0 +1,240 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/sitebuild.h"
+
+#include "base/error.h"
+#include "web/collapsitree.h"
+#include "web/commonpages.h"
+#include "web/messages.h"
+#include "web/nameindex.h"
+#include "web/outlinepages.h"
+#include "web/outputfolder.h"
+#include "web/setupchecks.h"
+#include "web/standardfiles.h"
+#include "web/treelinks.h"
+#include "web/treelist.h"
+#include "web/worktables.h"
+
+#include <QtCore/QDir>
+
+namespace stemwright
+{
+
+namespace
+{
+
+/// Ends a build that the user stopped, or of which he has been told that it cannot go on.
+struct Stopped {
+};
+
+class SiteBuild
+{
+public:
+    SiteBuild(FamilyFile& file, const SiteRequest& request, Environment& environment)
+        : m_file(file), m_connection(file.connection()), m_request(request), m_environment(environment),
+          m_progress(environment.talk.progress(webmessages::BuildingWebPages(), webmessages::SavingTheSetup()))
+    {
+    }
+
+    QString run()
+    {
+        for (const Step& step : steps()) {
+            m_progress->setCaption(step.caption);
+            m_progress->setPercent(0);
+            (this->*step.work)();
+        }
+        m_progress.reset();
+        return m_folder + QStringLiteral("/index.html");
+    }
+
+private:
+    struct Step {
+        QString caption;
+        void (SiteBuild::*work)();
+    };
+
+    static std::vector<Step> steps()
+    {
+        using namespace webmessages;
+        return {{SavingTheSetup(), &SiteBuild::loadSetup},
+                {Initializing(), &SiteBuild::loadTree},
+                {PreparingTheOutputFolder(), &SiteBuild::prepareFolder},
+                {CopyingStandardFiles(), &SiteBuild::copyStandardFiles},
+                {LoadingIndividuals(), &SiteBuild::loadIndividuals},
+                {LoadingIndividuals(), &SiteBuild::buildTrees},
+                {BuildingIndex(), &SiteBuild::buildIndex},
+                {WritingCommonPages(), &SiteBuild::writeCommonPages}};
+    }
+
+    void loadSetup()
+    {
+        m_setup = LoadSetup(m_connection, m_request.setupName);
+        if (!m_setup) {
+            throw Error(QStringLiteral("There is no setup named \"%1\".").arg(m_request.setupName));
+        }
+        if (const std::optional<Message> failure = CheckSetup(*m_setup)) {
+            stop(*failure);
+        }
+        m_folder = m_request.outputFolder.isEmpty() ? m_setup->folder : m_request.outputFolder;
+    }
+
+    /// Whatever keeps the trees from being built has to come up before the output folder is emptied.
+    void loadTree()
+    {
+        m_tree = FamilyTree::load(m_connection);
+        std::erase_if(m_setup->trees, [this](const TreeDefinition& tree) { return !isAvailable(tree); });
+        if (m_setup->trees.empty()) {
+            throw Error(webmessages::NothingToBuild());
+        }
+    }
+
+    bool isAvailable(const TreeDefinition& tree)
+    {
+        const std::optional<std::string> prefix = FilePrefix(tree.display);
+        if (prefix != "Outline" && prefix != "CTree") {
+            m_environment.talk.tell(webmessages::DisplayNotAvailable(tree.display, tree.headName));
+            return false;
+        }
+        if (!m_tree.findIndividual(tree.headId.value_or(0))) {
+            throw Error(webmessages::NoSuchTreeHead(tree.headName, tree.headId.value_or(0)));
+        }
+        return true;
+    }
+
+    void prepareFolder()
+    {
+        const ProtectedPlaces places{m_file.path(), QDir::homePath(), m_environment.application.path(),
+                                     m_environment.application.pagesFolder()};
+        if (!PrepareOutputFolder(m_folder, places, m_environment.talk)) {
+            throw Stopped{};
+        }
+        m_folder = QDir(m_folder).absolutePath();
+    }
+
+    void copyStandardFiles() { CopyStandardFiles(m_setup->pageStyle, m_environment.application, m_folder); }
+
+    void loadIndividuals()
+    {
+        const RunSettings settings = RunSettings::of(*m_setup, m_environment.clock);
+        m_texts = SiteTexts::load(m_connection, m_tree, m_setup->items);
+        m_privacy.emplace(m_tree, *m_texts, settings.protectedPersons, settings.maxPrivacyAge, settings.currentYear);
+        m_names.emplace(*m_texts);
+        m_run.emplace(SiteRun{
+            *m_setup, settings, m_tree, *m_texts, *m_privacy, *m_names, m_environment.application, m_folder, {}});
+    }
+
+    /// All walks come before the first page, so that a build which the user stops at a question has written none.
+    void buildTrees()
+    {
+        for (const TreeDefinition& definition : m_setup->trees) {
+            addTree(definition);
+        }
+        for (const PublishedTree& tree : m_run->trees) {
+            const bool isOutline = tree.prefix == "Outline";
+            const QString display = isOutline ? QStringLiteral("Outline") : QStringLiteral("CollapsiTree");
+            StepProgress progress(*m_progress, webmessages::EntryOf(display, QString::fromStdString(tree.headName)),
+                                  tree.walk.entries().size());
+            if (isOutline) {
+                WriteOutlinePages(*m_run, tree, progress);
+            } else {
+                WriteCollapsiTree(*m_run, tree, progress);
+            }
+        }
+    }
+
+    void addTree(const TreeDefinition& definition)
+    {
+        const TreePosition head = *m_tree.findIndividual(*definition.headId);
+        if (m_tree.spouseFamilies(head).empty()) {
+            const QString name = QString::fromStdString(m_names->displayName(head));
+            if (m_environment.talk.ask(webmessages::FamilylessAncestor(name)) != Button::Ok) {
+                throw Stopped{};
+            }
+            return;
+        }
+        const std::string prefix = *FilePrefix(definition.display);
+        WalkLimits limits{.totalGenerations = m_run->settings.totalGenerations};
+        if (prefix == "Outline") {
+            limits.generationsOnPage = m_run->settings.generationsOnPage;
+        }
+        m_run->trees.push_back({definition, prefix, TidyHeadName(definition), TreeWalk(m_tree, *m_privacy, head, limits)});
+        tellMissingFamilies(m_run->trees.back().walk);
+    }
+
+    void tellMissingFamilies(const TreeWalk& walk)
+    {
+        constexpr std::size_t mostMessages = 5;
+        const std::size_t missing = walk.missingFamilies().size();
+        for (std::size_t number = 0; number < std::min(missing, mostMessages); ++number) {
+            m_environment.talk.tell(webmessages::MissingFamilyRecord(m_tree.familyId(walk.missingFamilies()[number])));
+        }
+        if (missing > mostMessages) {
+            m_environment.talk.tell(webmessages::MoreMissingFamilyRecords(missing - mostMessages));
+        }
+    }
+
+    /// The tables become lasting only after the last page that they describe.
+    void buildIndex()
+    {
+        Transaction transaction(m_connection);
+        WriteWorkTables(*m_run, m_connection);
+        const std::vector<TreePosition> persons = PersonsInIndexOrder(*m_run);
+        StepProgress progress(*m_progress,
+                              m_run->settings.personalPages ? webmessages::BuildingIndexAndPersonalPages()
+                                                            : webmessages::BuildingIndex(),
+                              persons.size());
+        WriteNameIndex(*m_run, persons, progress);
+        transaction.commit();
+    }
+
+    void writeCommonPages()
+    {
+        WriteTreeList(*m_run);
+        WriteCommonPages(*m_run, m_connection);
+    }
+
+    [[noreturn]] void stop(const Message& message)
+    {
+        m_environment.talk.tell(message);
+        throw Stopped{};
+    }
+
+    FamilyFile& m_file;
+    Connection& m_connection;
+    const SiteRequest& m_request;
+    Environment& m_environment;
+    std::unique_ptr<Progress> m_progress;
+    std::optional<Setup> m_setup;
+    QString m_folder;
+    FamilyTree m_tree;
+    std::optional<SiteTexts> m_texts;
+    std::optional<Privacy> m_privacy;
+    std::optional<NameParts> m_names;
+    std::optional<SiteRun> m_run;
+};
+
+/// Whether the user still wants to see the closing dialog.
+bool ShowsConfirmation(const Settings& settings)
+{
+    return settings.value(setting::exportWizard, setting::confirmScreen) != QStringLiteral("0");
+}
+
+} // namespace
+
+std::optional<QString> BuildWebPages(FamilyFile& file, const SiteRequest& request, Environment& environment)
+{
+    try {
+        const QString index = SiteBuild(file, request, environment).run();
+        if (ShowsConfirmation(environment.settings)) {
+            environment.talk.tell(webmessages::WebPagesCreated(QFileInfo(index).path()));
+        }
+        return index;
+    } catch (const Stopped&) {
+        return std::nullopt;
+    } catch (const std::exception& exception) {
+        environment.talk.tell(webmessages::CannotBuild(ErrorText(exception)));
+        return std::nullopt;
+    }
+}
+
+} // namespace stemwright

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/environment.h"
+#include "store/file/familyfile.h"
+
+/// Building a web site from a setup, from the checks to the last page. Stands on everything of this folder.
+namespace stemwright
+{
+
+struct SiteRequest {
+    QString setupName;
+    /// The output folder of this run; empty for the setup's own.
+    QString outputFolder;
+};
+
+/// Builds the site, asking what has to be asked, and returns the full path of its index.html. No value when the user
+/// stopped the build or was told why it failed; the family file is then as it was.
+std::optional<QString> BuildWebPages(FamilyFile& file, const SiteRequest& request, Environment& environment);
+
+} // namespace stemwright

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/environment.h"
+#include "index/familytree.h"
+#include "web/pageassignment.h"
+#include "web/personnames.h"
+#include "web/privacy.h"
+#include "web/setup.h"
+#include "web/sitetexts.h"
+
+/// What the page writers of one publication share: the settings of the run, the family tree and its texts, and the
+/// trees that are on the site. It is handed to each of them; nothing about a run is kept elsewhere.
+namespace stemwright
+{
+
+/// The settings of a setup that steer a run, within the bounds that the walk needs.
+struct RunSettings {
+    int generationsOnPage = 4;
+    int totalGenerations = 99;
+    int maxPrivacyAge = 90;
+    ProtectedPersons protectedPersons = ProtectedPersons::Shown;
+    bool personalPages = false;
+    int currentYear = 0;
+
+    static RunSettings of(const Setup& setup, const Clock& clock);
+};
+
+/// A tree that is on the site.
+struct PublishedTree {
+    TreeDefinition definition;
+    /// With which the names of the tree's pages begin, for example "Outline".
+    std::string prefix;
+    /// The head's name as the setup has it, UTF-8.
+    std::string headName;
+    TreeWalk walk;
+};
+
+struct SiteRun {
+    const Setup& setup;
+    RunSettings settings;
+    const FamilyTree& tree;
+    const SiteTexts& texts;
+    const Privacy& privacy;
+    const NameParts& names;
+    const ApplicationFolder& application;
+    /// The output folder's full path.
+    QString folder;
+    std::vector<PublishedTree> trees;
+
+    QString file(std::string_view name) const
+    {
+        return folder + u'/' + QLatin1StringView(name.data(), static_cast<qsizetype>(name.size()));
+    }
+
+    /// Whether the person is in one of the trees, and so has index entry and personal page.
+    bool isOnSite(TreePosition person) const;
+
+    /// Whether a page of somebody else may name the person.
+    bool mayBeNamed(TreePosition person) const;
+};
+
+} // namespace stemwright

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "web/siterun.h"
+
+/// The names of tree pages and personal pages, the tree icons, and the links into trees. Stands on the run.
+namespace stemwright
+{
+
+/// With which the page names of a display begin; no value for an unknown display.
+std::optional<std::string> FilePrefix(const QString& display);
+
+/// "Outline_3_17.html": the page that this individual owns.
+std::string TreePageName(const PublishedTree& tree, int pageOwnerId);
+
+/// The tree's first page.
+std::string FirstPageName(const PublishedTree& tree, const FamilyTree& family);
+
+/// "graphics/icons_tree_09.gif" for a tree whose icon is 10.
+std::string TreeIcon(const TreeDefinition& tree);
+
+std::string PersonalPageName(int individualId);
+
+/// The page of the main entry of a person of this tree, with the entry's anchor: "Outline_3_17.html#42".
+std::string MainEntryAddress(const SiteRun& run, const PublishedTree& tree, TreePosition person);
+
+/// Appends one icon link for each tree that the person is in, to the main entry there.
+void AppendTreeLinks(std::string& page, const SiteRun& run, TreePosition person);
+
+} // namespace stemwright

@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/treelist.h"
+
+#include "web/escape.h"
+#include "web/pagefile.h"
+#include "web/templates.h"
+#include "web/treelinks.h"
+
+namespace stemwright
+{
+
+namespace
+{
+
+void AppendCell(PageFile& file, std::string_view tag, std::string_view content)
+{
+    file.bytes().append("\t");
+    file.line(tag);
+    file.bytes().append("\t\t");
+    file.line(content);
+    file.line("\t</TD>");
+}
+
+void AppendRow(PageFile& file, const SiteRun& run, const PublishedTree& tree)
+{
+    std::string name;
+    AppendText(name, tree.headName);
+    std::string display;
+    AppendText(display, tree.definition.display.toStdString());
+    file.line("<TR>");
+    AppendCell(file, "<TD>", std::to_string(run.tree.individualId(tree.walk.entries().front().person)));
+    AppendCell(file, "<TD>", name);
+    AppendCell(file, "<TD>", display);
+    AppendCell(file, "<TD WIDTH=5%>",
+               "<A HREF=\"" + FirstPageName(tree, run.tree) + "\"><IMG SRC=\"" + TreeIcon(tree.definition) +
+                   "\" ALIGN=\"ABSMIDDLE\" VSPACE=\"0\" BORDER=\"0\"></A>");
+    file.line("</TR>");
+}
+
+} // namespace
+
+void WriteTreeList(const SiteRun& run)
+{
+    PageFile file;
+    file.begin(run.file("TreeList.html"));
+    file.bytes().append(FillTemplate(ReadTemplate(run.application.file(QStringLiteral("html/treelisttop.html"))), {}));
+    for (const PublishedTree& tree : run.trees) {
+        AppendRow(file, run, tree);
+    }
+    file.line("</TABLE>");
+    file.line("</FONT>");
+    file.line("</BODY>");
+    file.bytes().append("</HTML>");
+    file.end();
+}
+
+} // namespace stemwright

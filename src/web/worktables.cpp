@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/worktables.h"
+
+#include "store/engine/schema.h"
+#include "web/ancestorchain.h"
+#include "web/contactlinks.h"
+#include "web/nameindex.h"
+
+namespace stemwright
+{
+
+namespace
+{
+
+/// The text cut to what a text column holds.
+std::string_view CutToColumn(std::string_view utf8)
+{
+    int characters = 0;
+    for (std::size_t position = 0; position < utf8.size(); ++position) {
+        const bool startsCharacter = (static_cast<unsigned char>(utf8[position]) & 0xC0) != 0x80;
+        if (startsCharacter && ++characters > maxTextLength) {
+            return utf8.substr(0, position);
+        }
+    }
+    return utf8;
+}
+
+class RowWriter
+{
+public:
+    RowWriter(const SiteRun& run, Connection& connection)
+        : m_run(run), m_insert(connection.prepare(QStringLiteral(
+                          "INSERT INTO Indi2Page (IndiId, AncestorId, TreeNumber, PageOwnerId, GenDisplayType, Name,"
+                          " Name4Index, AfterName, Links2Info, AncestorChain)"
+                          " VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10)")))
+    {
+    }
+
+    /// A duplicate leads to the page of the main entry, so that is its page here as well.
+    void write(const PublishedTree& tree, EntryNumber number)
+    {
+        const TreeEntry& entry = tree.walk.entries()[number];
+        const std::string ancestor = entry.reachedFrom == noEntry ? std::string() : id(tree.walk, entry.reachedFrom);
+        const std::string treeNumber = std::to_string(tree.definition.number);
+        const std::string owner = std::to_string(m_run.tree.individualId(tree.walk.pageOwner(entry.person)));
+        const std::string name = m_run.names.displayName(entry.person);
+        const std::string indexName = m_run.names.indexName(entry.person);
+        const std::string afterName = TextAfterName(m_run, entry.person);
+        std::string links;
+        AppendContactLinks(links, m_run, entry.person);
+        const std::string chain = AncestorChainText(tree.walk, m_run.tree, number, maxTextLength);
+        m_insert.bind(1, m_run.tree.individualId(entry.person));
+        bindOrNull(2, ancestor);
+        m_insert.bindUtf8(3, treeNumber).bindUtf8(4, owner).bindUtf8(5, tree.prefix);
+        m_insert.bindUtf8(6, CutToColumn(name)).bindUtf8(7, CutToColumn(indexName));
+        bindOrNull(8, afterName);
+        bindOrNull(9, links);
+        bindOrNull(10, chain);
+        m_insert.run();
+    }
+
+private:
+    std::string id(const TreeWalk& walk, EntryNumber number) const
+    {
+        return std::to_string(m_run.tree.individualId(walk.entries()[number].person));
+    }
+
+    void bindOrNull(int parameter, const std::string& text)
+    {
+        if (text.empty()) {
+            m_insert.bindNull(parameter);
+        } else {
+            m_insert.bindUtf8(parameter, text);
+        }
+    }
+
+    const SiteRun& m_run;
+    Statement m_insert;
+};
+
+void WriteIndi2Page(const SiteRun& run, Connection& connection)
+{
+    const TableDefinition& table = TableNamed(u"Indi2Page");
+    DropTable(connection, table);
+    CreateBareTable(connection, table);
+    RowWriter writer(run, connection);
+    for (const PublishedTree& tree : run.trees) {
+        for (EntryNumber number = 0; number < tree.walk.entries().size(); ++number) {
+            if (tree.walk.entries()[number].person != nowhere) {
+                writer.write(tree, number);
+            }
+        }
+    }
+    CreateIndexes(connection, table);
+}
+
+bool IsRepeated(const SiteRun& run, TreePosition person)
+{
+    return std::any_of(run.trees.begin(), run.trees.end(), [person](const PublishedTree& tree) {
+        const EntryNumber first = tree.walk.firstEntry(person);
+        return first != noEntry && tree.walk.entries()[first].nextOfPerson != noEntry;
+    });
+}
+
+void WriteUniqueIds(const SiteRun& run, Connection& connection)
+{
+    const TableDefinition& table = TableNamed(u"UniqueIds");
+    DropTable(connection, table);
+    CreateTable(connection, table);
+    Statement insert =
+        connection.prepare(QStringLiteral("INSERT INTO UniqueIds (Id, DuplicatesAlreadyFound) VALUES (?1, ?2)"));
+    for (TreePosition person = 0; person < run.tree.individuals(); ++person) {
+        if (run.isOnSite(person)) {
+            insert.bind(1, run.tree.individualId(person)).bind(2, IsRepeated(run, person) ? -1 : 0).run();
+        }
+    }
+}
+
+} // namespace
+
+void WriteWorkTables(const SiteRun& run, Connection& connection)
+{
+    WriteIndi2Page(run, connection);
+    WriteUniqueIds(run, connection);
+}
+
+} // namespace stemwright

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/pageassignment.h"
+
+#include "support/familybuilder.h"
+#include "support/testworld.h"
+#include "web/ancestorchain.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace stemwright::test
+{
+
+namespace
+{
+
+class PageAssignmentTest : public testing::Test
+{
+protected:
+    void persons(int last)
+    {
+        for (int id = 1; id <= last; ++id) {
+            build.person(id, "P", "");
+        }
+    }
+
+    /// The entries of the walk from person 1, as "generation:id" with "+" for a spouse, "=" for a duplicate and the
+    /// page's owner after "@".
+    std::string walk(const WalkLimits& limits, ProtectedPersons handling = ProtectedPersons::Shown)
+    {
+        const FamilyTree tree = FamilyTree::load(world.file.connection());
+        const SiteTexts texts = SiteTexts::load(world.file.connection(), tree, {});
+        const Privacy privacy(tree, texts, handling, 90, 2026);
+        const TreeWalk walked(tree, privacy, *tree.findIndividual(1), limits);
+        std::string text;
+        for (const TreeEntry& entry : walked.entries()) {
+            text += text.empty() ? "" : " ";
+            text += std::to_string(entry.generation) + (entry.kind == EntryKind::Spouse ? "+" : ":");
+            text += entry.person == nowhere ? "?" : std::to_string(tree.individualId(entry.person));
+            text += entry.isDuplicate ? "=" : "";
+            text += '@' + std::to_string(tree.individualId(walked.entries()[entry.page].person));
+        }
+        return text;
+    }
+
+    TestWorld world;
+    FamilyBuilder build{world.newFamilyFile().connection()};
+};
+
+} // namespace
+
+TEST_F(PageAssignmentTest, GenerationsArePutOnPages)
+{
+    persons(6);
+    build.family(1, 1, 0, {2}).family(2, 2, 0, {3, 6}).family(3, 3, 0, {4}).family(4, 4, 0, {5});
+    EXPECT_EQ(walk({.generationsOnPage = 2}), "1:1@1 1+?@1 2:2@1 2+?@1 3:3@3 3+?@3 4:4@3 4+?@3 5:5@5 3:6@6");
+    EXPECT_EQ(walk({.generationsOnPage = 1}), "1:1@1 1+?@1 2:2@1 2+?@1 3:3@3 3+?@3 4:4@3 4+?@3 5:5@5 3:6@6");
+    EXPECT_EQ(walk({.generationsOnPage = 3, .totalGenerations = 3}), "1:1@1 1+?@1 2:2@1 2+?@1 3:3@1 3+?@1 3:6@1");
+    EXPECT_EQ(walk({.totalGenerations = 1}), "1:1@1 1+?@1");
+}
+
+TEST_F(PageAssignmentTest, WhoIsMetTwiceIsWrittenOnce)
+{
+    persons(8);
+    // 4 and 5 are cousins and have 6; 5 has 8 with 7.
+    build.family(1, 1, 0, {2, 3}).family(2, 2, 0, {4}).family(3, 3, 0, {5}).family(4, 4, 5, {6}).family(5, 7, 5, {8});
+    EXPECT_EQ(walk({}), "1:1@1 1+?@1 2:2@1 2+?@1 3:4@1 3+5=@1 4:6@1 2:3@1 2+?@1 3:5@1 3+4=@1 4:6=@1 3+7@1 4:8@1");
+    // A duplicate gets no page of its own: the main entry may own the page with that name.
+    EXPECT_EQ(walk({.generationsOnPage = 3}),
+              "1:1@1 1+?@1 2:2@1 2+?@1 3:4@1 3+5=@1 4:6@6 2:3@1 2+?@1 3:5@1 3+4=@1 4:6=@1 3+7@1 4:8@8");
+}
+
+TEST_F(PageAssignmentTest, OwnAncestorEndsTheWalk)
+{
+    persons(3);
+    build.family(1, 1, 0, {2}).family(2, 2, 0, {1, 3}).family(3, 3, 3, {3});
+    EXPECT_EQ(walk({}), "1:1@1 1+?@1 2:2@1 2+?@1 3:1=@1 3+?@1 3:3@1 3+?@1 4:3=@1 4+?@1");
+}
+
+TEST_F(PageAssignmentTest, HiddenPersonsAreLeftOutWithTheirFamilies)
+{
+    persons(7);
+    build.run(QStringLiteral("UPDATE Indi SET BIRT_Date = '1990' WHERE Id IN (1, 3, 4)"));
+    // The head is written all the same; spouse 3 goes with child 5, child 4 with child 6.
+    build.family(1, 1, 2, {4, 7}).family(2, 1, 3, {5}).family(3, 4, 0, {6});
+    EXPECT_EQ(walk({}, ProtectedPersons::Hidden), "1:1@1 1+2@1 2:7@1");
+    EXPECT_EQ(walk({}), "1:1@1 1+2@1 2:4@1 2+?@1 3:6@1 2:7@1 1+3@1 2:5@1");
+}
+
+TEST_F(PageAssignmentTest, VeryLongLinesOfDescentAreWalked)
+{
+    constexpr int last = 40000;
+    Transaction transaction(world.file.connection());
+    build.run(QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1)"
+                             " INSERT INTO Indi (Id) SELECT i FROM n")
+                  .arg(last));
+    build.run(QStringLiteral("INSERT INTO Fam (Id, HusbandId) SELECT Id, Id FROM Indi;"
+                             "INSERT INTO Spouse2Fam SELECT Id, Id FROM Indi;"
+                             "INSERT INTO Fam2Child (FamId, ChildId) SELECT Id - 1, Id FROM Indi WHERE Id > 1"));
+    const FamilyTree tree = FamilyTree::load(world.file.connection());
+    const SiteTexts texts = SiteTexts::load(world.file.connection(), tree, {});
+    const Privacy privacy(tree, texts, ProtectedPersons::Shown, 90, 2026);
+    const TreeWalk walked(tree, privacy, 0, {.generationsOnPage = 4, .totalGenerations = 32767});
+    ASSERT_EQ(walked.entries().size(), 2U * 32767);
+    const auto deepest = static_cast<EntryNumber>(walked.entries().size() - 2);
+    EXPECT_LT(AncestorChainOf(walked, deepest).size(), 1000U);
+    const std::string text = AncestorChainText(walked, tree, deepest, 255);
+    EXPECT_LE(text.size(), 255U);
+    EXPECT_TRUE(text.starts_with("32766|32765|")) << text;
+    EXPECT_NE(text.back(), '|');
+}
+
+} // namespace stemwright::test

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/personalpage.h"
+
+#include <gtest/gtest.h>
+
+namespace stemwright::test
+{
+
+TEST(PersonalPage, ProperCase)
+{
+    for (const auto& [text, expected] :
+         std::vector<std::pair<const char*, const char*>>{{"12 JAN 1900", " 12 Jan 1900"},
+                                                          {"abt 1850", " Abt 1850"},
+                                                          {"\u00e9T\u00c9  X", " \u00c9t\u00e9  X"},
+                                                          {"", " "}}) {
+        EXPECT_EQ(ProperCase(QString::fromUtf8(text)), QString::fromUtf8(expected));
+    }
+}
+
+} // namespace stemwright::test

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "support/familybuilder.h"
+#include "support/testworld.h"
+
+#include <QtCore/QStringList>
+
+#include <map>
+#include <string>
+
+namespace stemwright::test
+{
+
+/// A test world that publishes: a new family file with its setup "Default", small templates of its own, and an output
+/// folder that does not exist yet.
+class SiteWorld : public TestWorld
+{
+public:
+    /// Uses the tests' own templates, or those of the given application folder.
+    explicit SiteWorld(const QString& application = TestData(QStringLiteral("web/share")));
+
+    /// Sets columns of the setup: "PersPages = 1, HideLiving = 1".
+    SiteWorld& setup(const char* assignments);
+    /// Gives the first tree this head, or adds a tree.
+    SiteWorld& head(int id, const char* name, const char* display = "Outline");
+    /// Adds an item to the setup as its stored record, the fields separated by "|".
+    SiteWorld& item(const char* record);
+
+    /// Builds the site into the output folder, answering the question about the folder and taking note of the end.
+    /// False when it was not built.
+    bool publish();
+
+    QString site() const { return path(QStringLiteral("site")); }
+
+    /// The bytes of a page, with LF for CR LF; empty for a missing page.
+    std::string page(const QString& name) const;
+
+    /// All files of the site with their bytes.
+    std::map<QString, std::string> files() const;
+
+    /// The rows of a query, columns joined by blanks, "-" for Null.
+    QStringList rows(const QString& sql);
+
+    FamilyBuilder build;
+
+    ApplicationFolder ownApplication;
+    Environment own;
+
+private:
+    int m_trees = 0;
+};
+
+/// A family for the tests of pages: the Harts, five generations from Thomas (1) with remarriages, a marriage of
+/// cousins, unknown spouses, a living branch, and names that need escaping.
+void AddHarts(SiteWorld& world);
+
+} // namespace stemwright::test
