@@ -111,11 +111,13 @@ void PrepareFamilyFile(const Stage& stage, std::uint32_t individuals, const std:
 
 } // namespace
 
-std::uint64_t BytesNeeded(std::uint32_t individuals)
+Needs NeedsOf(std::uint32_t individuals)
 {
     constexpr std::uint64_t always = 20'000'000;
-    constexpr std::uint64_t perIndividual = 12'000;
-    return always + individuals * perIndividual;
+    // A page takes whole blocks of 4 KB and an entry in the folder; packed, it takes its bytes.
+    constexpr std::uint64_t memoryPerIndividual = 12'000;
+    constexpr std::uint64_t diskPerIndividual = 8'000;
+    return {always + individuals * memoryPerIndividual, always + individuals * diskPerIndividual};
 }
 
 PairResult MeasureImport(const Bench& bench, std::uint32_t individuals)
