@@ -19,8 +19,9 @@
 
 /// limit_publish pack SITE ARCHIVE packs all files of a published site into one file. limit_publish write ARCHIVE
 /// FOLDER then shows what writing a site costs at the least: it writes the same bytes to the same names below FOLDER,
-/// which it creates, with one call a file, and prints the seconds, the files and the bytes. The archive is read in
-/// large pieces while the watch is stopped, so that a site of several gigabytes needs little memory.
+/// which it creates, with one call a file, and prints when it began, on the machine's clock, the seconds of writing,
+/// the files and the bytes. The archive is read in large pieces while the watch is stopped, so that a site of several
+/// gigabytes needs little memory.
 namespace
 {
 
@@ -211,6 +212,7 @@ Written WriteSite(const std::string& archivePath, const std::string& path)
 
 int main(int argc, char** argv)
 {
+    const double began = stemwright::bench::Now();
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     if (arguments.size() != 3 || (arguments[0] != "pack" && arguments[0] != "write")) {
         std::fputs("Usage: limit_publish pack SITE ARCHIVE | limit_publish write ARCHIVE FOLDER\n", stderr);
@@ -221,7 +223,7 @@ int main(int argc, char** argv)
             Pack(arguments[1], arguments[2]);
         } else {
             const Written written = WriteSite(arguments[1], arguments[2]);
-            std::printf("%.6f %llu %llu\n", written.seconds, static_cast<unsigned long long>(written.files),
+            std::printf("%.6f %.6f %llu %llu\n", began, written.seconds, static_cast<unsigned long long>(written.files),
                         static_cast<unsigned long long>(written.bytes));
         }
         return 0;

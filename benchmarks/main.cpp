@@ -72,13 +72,22 @@ void FillIn(Options& options)
 /// What is missing to measure a size; empty when nothing is.
 std::string Shortage(const Bench& bench, std::uint32_t individuals)
 {
-    const std::uint64_t needed = BytesNeeded(individuals);
-    const std::uint64_t free = FreeBytes(bench.memory);
-    if (needed <= free) {
-        return {};
+    struct Need {
+        std::string what;
+        std::uint64_t needed;
+        std::uint64_t free;
+    };
+
+    const Needs needs = NeedsOf(individuals);
+    for (const Need& need :
+         {Need{"in " + bench.memory, needs.memory, FreeBytes(bench.memory)},
+          Need{"of memory", needs.memory, FreeMemory()}, Need{"in " + bench.disk, needs.disk, FreeBytes(bench.disk)}}) {
+        if (need.needed > need.free) {
+            return "needs " + std::to_string(need.needed / 1'000'000) + " MB " + need.what + ", " +
+                   std::to_string(need.free / 1'000'000) + " MB are free";
+        }
     }
-    return "needs " + std::to_string(needed / 1'000'000) + " MB of memory in " + bench.memory + ", " +
-           std::to_string(free / 1'000'000) + " MB are free";
+    return {};
 }
 
 void Measure(const Work& work, const Options& options, Table& table)

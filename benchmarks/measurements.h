@@ -24,8 +24,13 @@ struct Bench {
     double secondsPerPair = 0;
 };
 
-/// What a size needs on the tmpfs at most.
-std::uint64_t BytesNeeded(std::uint32_t individuals);
+/// The bytes that a size needs at most.
+struct Needs {
+    std::uint64_t memory = 0;
+    std::uint64_t disk = 0;
+};
+
+Needs NeedsOf(std::uint32_t individuals);
 
 /// `stemwright-cli import` into an empty family file against limit_import.
 PairResult MeasureImport(const Bench& bench, std::uint32_t individuals);

@@ -72,7 +72,7 @@ ProcessResult RunProcess(const std::vector<std::string>& command, const std::str
     }
     arguments.push_back(nullptr);
 
-    const Stopwatch watch;
+    const double started = Now();
     pid_t process = 0;
     const int failure = posix_spawnp(&process, arguments[0], streams.actions(), nullptr, arguments.data(), environ);
     if (failure != 0) {
@@ -82,7 +82,8 @@ ProcessResult RunProcess(const std::vector<std::string>& command, const std::str
     rusage usage{};
     while (wait4(process, &status, 0, &usage) < 0 && errno == EINTR) {
     }
-    ProcessResult result{watch.seconds(), static_cast<std::uint64_t>(usage.ru_maxrss) * 1024U, streams.output()};
+    ProcessResult result{started, Now() - started, static_cast<std::uint64_t>(usage.ru_maxrss) * 1024U,
+                         streams.output()};
     if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
         std::string line;
         for (const std::string& argument : command) {

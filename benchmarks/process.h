@@ -12,7 +12,9 @@ namespace stemwright::bench
 {
 
 struct ProcessResult {
-    /// From just before the start of the process to its end.
+    /// When the process was started, on the clock of stopwatch.h.
+    double started = 0;
+    /// From then to its end.
     double seconds = 0;
     /// The largest part of memory that the process held at any time.
     std::uint64_t peakBytes = 0;

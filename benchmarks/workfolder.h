@@ -29,7 +29,10 @@ private:
 /// that are written next would pay for it.
 void RemoveAndSettle(const std::string& path);
 
-/// How many bytes may still be written to the folder's file system, and be held in memory if that is where it is.
+/// How many bytes may still be written to the folder's file system.
 std::uint64_t FreeBytes(const std::string& folder);
+
+/// How many bytes of memory are free for use.
+std::uint64_t FreeMemory();
 
 } // namespace stemwright::bench
