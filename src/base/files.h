@@ -23,8 +23,8 @@ void WriteWholeFile(const QString& path, const QByteArray& content);
 /// Appends to a file that WriteWholeFile() has begun; fails in the same way.
 void AppendToFile(const QString& path, const QByteArray& content);
 
-/// Removes what was written of a file that did not become whole. Only a plain file is removed: a device, which a user may
-/// well name as a target, stays.
+/// Removes what was written of a file that did not become whole. Only a plain file is removed: a device, which a user
+/// may well name as a target, stays.
 void DiscardFile(const QString& path);
 
 /// Puts the finished file `from` in the place of `to` (same folder) in one step and makes the change durable: after a

@@ -157,7 +157,8 @@ private:
         if (prefix == "Outline") {
             limits.generationsOnPage = m_run->settings.generationsOnPage;
         }
-        m_run->trees.push_back({definition, prefix, TidyHeadName(definition), TreeWalk(m_tree, *m_privacy, head, limits)});
+        m_run->trees.push_back(
+            {definition, prefix, TidyHeadName(definition), TreeWalk(m_tree, *m_privacy, head, limits)});
         tellMissingFamilies(m_run->trees.back().walk);
     }
 

@@ -15,7 +15,7 @@ TEST(Settings, ValuesComeBackAsTheyWereInTheNextRun)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("new folder/s.ini"));
-    const QString values[] = {QStringLiteral("/home/ann/Smith, John; \"old\" %20.kvf"),
+    const QString values[] = {QStringLiteral("/srv/ann/Smith, John; \"old\" %20.kvf"),
                               QStringLiteral("C:\\Data\\x.kvf"), QStringLiteral("Фамилия=é"),
                               QStringLiteral("@Variant(1)"), QStringLiteral(" blanks ")};
     for (const QString& value : values) {

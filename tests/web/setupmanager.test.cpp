@@ -101,9 +101,9 @@ TEST(SetupManager, FolderOfCloneStandsBesideItsSource)
         {QStringLiteral("C:\\App\\fampages\\Old"), QStringLiteral("C:\\App\\fampages\\New")},
         {QStringLiteral("D:\\Site"), QStringLiteral("D:\\New")},
         {QStringLiteral("D:\\"), QStringLiteral("D:\\New")},
-        {QStringLiteral("/home/ann/fampages"), QStringLiteral("/home/ann/fampages/New")},
-        {QStringLiteral("/home/ann/fampages/"), QStringLiteral("/home/ann/fampages/New")},
-        {QStringLiteral("/home/ann/fampages/Old"), QStringLiteral("/home/ann/fampages/New")},
+        {QStringLiteral("/srv/ann/fampages"), QStringLiteral("/srv/ann/fampages/New")},
+        {QStringLiteral("/srv/ann/fampages/"), QStringLiteral("/srv/ann/fampages/New")},
+        {QStringLiteral("/srv/ann/fampages/Old"), QStringLiteral("/srv/ann/fampages/New")},
         {QStringLiteral("/Site"), QStringLiteral("/New")},
         {QStringLiteral("/"), QStringLiteral("/New")}};
     for (const Case& clone : cases) {
