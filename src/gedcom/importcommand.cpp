@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "gedcom/importcommand.h"
 
-#include "base/error.h"
 #include "gedcom/importer.h"
 #include "gedcom/messages.h"
 #include "store/engine/schema.h"
@@ -71,7 +70,7 @@ bool ImportGedcomFile(FamilyFile& file, const QString& path, Environment& enviro
         return ranToItsEnd;
     } catch (const std::exception& exception) {
         report.outcome = ImportOutcome::Failed;
-        environment.talk.tell(gedcommessages::ImportFailed(ErrorText(exception)));
+        environment.talk.tell(gedcommessages::ImportFailed(connection.path(), exception));
         return false;
     }
 }

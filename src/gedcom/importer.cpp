@@ -231,7 +231,7 @@ bool ImportGedcom(Connection& connection, const QString& path, Environment& envi
         }
         return !duplicate;
     } catch (const std::exception& exception) {
-        environment.talk.tell(gedcommessages::ImportFailed(ErrorText(exception)));
+        environment.talk.tell(gedcommessages::ImportFailed(connection.path(), exception));
         return false;
     }
 }

@@ -2,6 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "gedcom/messages.h"
 
+#include "base/error.h"
+#include "store/engine/engineerror.h"
+
+#include <SQLiteCpp/Exception.h>
+
 #include <QtCore/QDir>
 #include <QtCore/QStringList>
 
@@ -74,9 +79,15 @@ Message DuplicateFamily(int id)
             Icon::Critical};
 }
 
-Message ImportFailed(const QString& reason)
+Message ImportFailed(const QString& familyFile, const std::exception& exception)
 {
-    return {{}, reason, Icon::Critical};
+    if (dynamic_cast<const SQLite::Exception*>(&exception) == nullptr) {
+        return {{}, ErrorText(exception), Icon::Critical};
+    }
+    return {{},
+            QStringLiteral("The family file %1 cannot be changed. %2 Your family tree was left as it was.")
+                .arg(QDir::toNativeSeparators(familyFile), ReasonText(exception)),
+            Icon::Critical};
 }
 
 QString CannotOpen(const QString& path, const QString& reason)

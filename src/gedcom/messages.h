@@ -4,6 +4,8 @@
 
 #include "base/talk.h"
 
+#include <exception>
+
 /// The texts of the GEDCOM import, word for word: messages first, then the reasons that errors carry.
 namespace stemwright::gedcommessages
 {
@@ -13,7 +15,8 @@ Message CreatingBackup();
 Message FileConflict(const QString& newPath, const QString& storedPath);
 Message DuplicateIndividual(int id, const QString& surname, const QString& givenName);
 Message DuplicateFamily(int id);
-Message ImportFailed(const QString& reason);
+/// What ended the import: the exception's own text, or what the engine's exception means for the family file.
+Message ImportFailed(const QString& familyFile, const std::exception& exception);
 
 inline const QString progressTitle = QStringLiteral("Import Progress");
 inline const QString progressCaption = QStringLiteral("Importing GEDCOM file");
