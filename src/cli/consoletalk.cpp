@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/consoletalk.h"
 
-#include <QtCore/QTextStream>
+#include "cli/consoleprogress.h"
+#include "cli/standarderror.h"
 
-#include <array>
-#include <cstdio>
+#include <iostream>
 
 #include <unistd.h>
 
@@ -15,16 +15,20 @@ namespace stemwright
 namespace
 {
 
-void Print(const QString& text)
+bool IsTerminal(int descriptor)
 {
-    QTextStream stream(stderr);
-    stream << text;
+    return ::isatty(descriptor) != 0;
 }
 
-QString ReadLine()
+/// A line of standard input; no value at its end.
+std::optional<QString> ReadLine()
 {
-    QTextStream stream(stdin);
-    return stream.readLine();
+    std::string line;
+    if (!std::getline(std::cin, line)) {
+        PrintError(QStringLiteral("\n"));
+        return std::nullopt;
+    }
+    return QString::fromLocal8Bit(line.data(), static_cast<qsizetype>(line.size()));
 }
 
 QString Caption(Button button)
@@ -49,99 +53,94 @@ bool Has(const Message& message, Button button)
     return std::find(message.buttons.begin(), message.buttons.end(), button) != message.buttons.end();
 }
 
-/// The button that stands for yes or no among those that the message has.
-Button FirstOf(const Message& message, const std::array<Button, 2>& candidates)
+/// The button that stands for an answer among those that the message has, otherwise its preset.
+Button FirstOf(const Message& message, std::initializer_list<Button> candidates)
 {
-    for (const Button candidate : candidates) {
-        if (Has(message, candidate)) {
-            return candidate;
+    const auto* found = std::find_if(candidates.begin(), candidates.end(),
+                                     [&message](Button candidate) { return Has(message, candidate); });
+    return found != candidates.end() ? *found : message.preset;
+}
+
+/// The captions as a choice, "Yes, No or Cancel".
+QString Choice(const Message& message)
+{
+    QStringList captions;
+    for (const Button button : message.buttons) {
+        captions << Caption(button);
+    }
+    const QString last = captions.takeLast();
+    return captions.isEmpty() ? last : captions.join(QStringLiteral(", ")) + QStringLiteral(" or ") + last;
+}
+
+/// The button whose caption begins with what was typed.
+std::optional<Button> ButtonTyped(const Message& message, const QString& typed)
+{
+    for (const Button button : message.buttons) {
+        if (Caption(button).startsWith(typed, Qt::CaseInsensitive)) {
+            return button;
         }
     }
-    return message.preset;
+    return std::nullopt;
 }
 
 void PrintMessage(const Message& message)
 {
-    Print((message.title.isEmpty() ? QString() : message.title + QStringLiteral(": ")) + message.text + u'\n');
+    if (IsTerminal(STDERR_FILENO)) {
+        ClearProgressLine();
+    }
+    const QString title = message.title.isEmpty() ? QString() : message.title + u'\n';
+    PrintError(title + message.text.trimmed() + u'\n');
 }
 
-/// A line on the terminal that is written over; silent anywhere else.
-class ConsoleProgress : public Progress
+void PrintPrompt(const Message& message)
 {
-public:
-    ConsoleProgress(QString caption, bool visible) : m_caption(std::move(caption)), m_visible(visible) { show(); }
-
-    ConsoleProgress(const ConsoleProgress&) = delete;
-    ConsoleProgress& operator=(const ConsoleProgress&) = delete;
-
-    ~ConsoleProgress() override
-    {
-        if (m_visible) {
-            Print(QStringLiteral("\r\x1b[K"));
-        }
-    }
-
-    void setCaption(const QString& caption) override
-    {
-        m_caption = caption;
-        show();
-    }
-
-    void setPercent(int percent) override
-    {
-        if (percent != m_percent) {
-            m_percent = percent;
-            show();
-        }
-    }
-
-    bool stopWished() override { return false; }
-
-private:
-    void show() const
-    {
-        if (m_visible) {
-            Print(QStringLiteral("\r\x1b[K%1 %2%").arg(m_caption).arg(m_percent));
-        }
-    }
-
-    QString m_caption;
-    int m_percent = 0;
-    bool m_visible;
-};
+    PrintError(QStringLiteral("%1? [%2] ").arg(Choice(message), Caption(message.preset)));
+}
 
 } // namespace
 
 ConsoleTalk::ConsoleTalk(const GlobalOptions& options) : m_options(options) {}
 
-Button ConsoleTalk::ask(const Message& message)
+std::optional<Button> ConsoleTalk::answerGivenBeforehand(const Message& message) const
 {
-    if (m_options.answers == Answers::Yes) {
+    switch (m_options.answers) {
+    case Answers::Yes:
         return FirstOf(message, {Button::Yes, Button::Ok});
-    }
-    if (m_options.answers == Answers::No) {
+    case Answers::No:
         return FirstOf(message, {Button::No, Button::Cancel});
+    case Answers::Ask:
+        break;
     }
+    return IsTerminal(STDIN_FILENO) ? std::nullopt : std::optional(message.preset);
+}
+
+Button ConsoleTalk::askOnTerminal(const Message& message) const
+{
     PrintMessage(message);
-    if (::isatty(STDIN_FILENO) == 0) {
-        return message.preset;
-    }
-    QStringList captions;
-    for (const Button button : message.buttons) {
-        captions << Caption(button);
-    }
     while (true) {
-        Print(QStringLiteral("[%1] (%2): ").arg(captions.join(u'/'), Caption(message.preset)));
-        const QString answer = ReadLine().trimmed();
-        if (answer.isEmpty()) {
+        PrintPrompt(message);
+        const std::optional<QString> typed = ReadLine();
+        if (!typed || typed->trimmed().isEmpty()) {
             return message.preset;
         }
-        for (const Button button : message.buttons) {
-            if (Caption(button).startsWith(answer, Qt::CaseInsensitive)) {
-                return button;
-            }
+        if (const std::optional<Button> chosen = ButtonTyped(message, typed->trimmed())) {
+            return *chosen;
         }
     }
+}
+
+Button ConsoleTalk::ask(const Message& message)
+{
+    const std::optional<Button> given = answerGivenBeforehand(message);
+    if (!given) {
+        return askOnTerminal(message);
+    }
+    if (!m_options.quiet || *given == Button::No || *given == Button::Cancel) {
+        PrintMessage(message);
+        PrintPrompt(message);
+        PrintError(Caption(*given) + u'\n');
+    }
+    return *given;
 }
 
 void ConsoleTalk::tell(const Message& message)
@@ -154,12 +153,13 @@ void ConsoleTalk::tell(const Message& message)
 
 std::optional<QString> ConsoleTalk::input(const InputRequest& request)
 {
-    if (::isatty(STDIN_FILENO) == 0 || m_options.answers != Answers::Ask) {
+    PrintError(QStringLiteral("%1 [%2] ").arg(request.prompt, request.text));
+    if (!IsTerminal(STDIN_FILENO) || m_options.answers != Answers::Ask) {
+        PrintError(QStringLiteral("\n"));
         return std::nullopt;
     }
-    Print(QStringLiteral("%1 [%2]: ").arg(request.prompt, request.text));
-    const QString answer = ReadLine();
-    return answer.isEmpty() ? request.text : answer;
+    const std::optional<QString> typed = ReadLine();
+    return typed && typed->isEmpty() ? request.text : typed;
 }
 
 std::optional<QString> ConsoleTalk::chooseFile(const FileRequest&)
@@ -169,7 +169,10 @@ std::optional<QString> ConsoleTalk::chooseFile(const FileRequest&)
 
 std::unique_ptr<Progress> ConsoleTalk::progress(const QString&, const QString& caption)
 {
-    return std::make_unique<ConsoleProgress>(caption, ::isatty(STDERR_FILENO) != 0 && !m_options.quiet);
+    if (m_options.quiet || !IsTerminal(STDERR_FILENO)) {
+        return std::make_unique<SilentProgress>();
+    }
+    return std::make_unique<ConsoleProgress>(caption);
 }
 
 } // namespace stemwright

@@ -7,7 +7,11 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <clocale>
 #include <cstdio>
+#include <cstring>
+
+#include <langinfo.h>
 
 namespace stemwright
 {
@@ -27,6 +31,25 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& options)
     app.add_flag("--quiet", options.quiet, "Print errors only");
     app.add_flag_callback(
         "--json", [&options] { options.format = OutputFormat::Json; }, "Print lists as JSON");
+}
+
+/// Arguments, file names and texts are UTF-8, also where the environment names no such encoding, as on a bare system;
+/// Qt would decide the same, but say so on each run.
+void UseUtf8()
+{
+    std::setlocale(LC_CTYPE, "");
+    if (std::strcmp(::nl_langinfo(CODESET), "UTF-8") != 0) {
+        qputenv("LC_ALL", "C.UTF-8");
+    }
+}
+
+/// What was printed so far may still wait to be written, and the disk that it goes to may be full.
+void FinishOutput(CommandLine& line)
+{
+    line.out().flush();
+    if (line.out().status() != QTextStream::Ok || std::fflush(stdout) != 0) {
+        throw Error(QStringLiteral("The output cannot be written: %1.").arg(qt_error_string()));
+    }
 }
 
 /// Runs the command; 0 done, 1 the program said why on standard error, 2 wrong usage.
@@ -53,6 +76,7 @@ int Run(int argc, char** argv)
         } catch (const CLI::ParseError& error) {
             return app.exit(error) == 0 ? 0 : 2;
         }
+        FinishOutput(line);
         return 0;
     } catch (const AlreadyReported&) {
         return 1;
@@ -68,6 +92,7 @@ int Run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    stemwright::UseUtf8();
     const QCoreApplication application(argc, argv);
     return stemwright::Run(argc, argv);
 }
