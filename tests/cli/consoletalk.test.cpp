@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "base/files.h"
+#include "cli/cliworld.h"
+#include "cli/terminal.h"
+
+#include <gtest/gtest.h>
+
+using namespace stemwright;
+using namespace stemwright::test;
+
+namespace
+{
+
+/// Creating a family file where a file stands asks "Do you want to replace it?", preset with No.
+class ConsoleTalkTest : public testing::Test
+{
+protected:
+    void SetUp() override { world.write(QStringLiteral("old.kvf"), "old"); }
+
+    bool wasReplaced() const { return ReadWholeFile(world.path(QStringLiteral("old.kvf"))) != "old"; }
+
+    CliWorld world;
+    const QStringList create = {QStringLiteral("new"), world.path(QStringLiteral("old.kvf"))};
+};
+
+} // namespace
+
+TEST_F(ConsoleTalkTest, TakesTheAnswerThatIsTyped)
+{
+    const struct {
+        QByteArray typed;
+        bool replaced;
+        int questions;
+    } cases[] = {
+        {"n\n", false, 1},          {"\n", false, 1},       {endOfInput, false, 1},      {" NO \n", false, 1},
+        {"perhaps\nn\n", false, 2}, {"yess\n\n", false, 2}, {"perhaps\nYES\n", true, 2}, {"y\n", true, 1},
+    };
+
+    for (const auto& expected : cases) {
+        SetUp();
+        const Outcome outcome = RunOnTerminal(world, create, expected.typed);
+        EXPECT_EQ(outcome.status, expected.replaced ? 0 : 1) << expected.typed.toStdString() << outcome;
+        EXPECT_EQ(outcome.output.count(QStringLiteral("Yes or No? [No]")), expected.questions) << outcome;
+        EXPECT_EQ(outcome.output.count(QStringLiteral("Do you want to replace it?")), 1) << outcome;
+        EXPECT_EQ(wasReplaced(), expected.replaced) << expected.typed.toStdString();
+    }
+}
+
+TEST_F(ConsoleTalkTest, TakesTheAnswerGivenBeforehandOrThePreset)
+{
+    const struct {
+        QStringList options;
+        bool replaced;
+        bool shown;
+    } cases[] = {
+        {{}, false, true},
+        {{QStringLiteral("--quiet")}, false, true},
+        {{QStringLiteral("--no")}, false, true},
+        {{QStringLiteral("--yes")}, true, true},
+        {{QStringLiteral("--yes"), QStringLiteral("--quiet")}, true, false},
+    };
+
+    for (const auto& expected : cases) {
+        SetUp();
+        const Outcome outcome = world.run(expected.options + create);
+        const std::string label = expected.options.join(u' ').toStdString();
+        EXPECT_EQ(outcome.status, expected.replaced ? 0 : 1) << label << outcome;
+        EXPECT_EQ(outcome.errors.contains(QStringLiteral("Do you want to replace it?")), expected.shown)
+            << label << outcome;
+        EXPECT_EQ(wasReplaced(), expected.replaced) << label;
+        EXPECT_EQ(outcome.output, QString()) << label;
+    }
+}
+
+TEST_F(ConsoleTalkTest, ShowsProgressOnTerminalsOnly)
+{
+    const QString tree = world.writeTree(QStringLiteral("tree.ged"));
+    const QString file = world.path(QStringLiteral("new.kvf"));
+    const QString goBack = QStringLiteral("\r\x1b[K");
+    ASSERT_EQ(world.run({QStringLiteral("new"), file}).status, 0);
+    const QStringList import = {QStringLiteral("--yes"), QStringLiteral("import"), file, tree};
+
+    const Outcome shown = RunOnTerminal(world, import, {});
+    EXPECT_EQ(shown.status, 0) << shown;
+    EXPECT_TRUE(shown.output.contains(goBack)) << shown;
+    const qsizetype lastPaint = shown.output.lastIndexOf(u'%');
+    EXPECT_GT(shown.output.lastIndexOf(goBack), lastPaint) << "the progress line stays behind: " << shown;
+
+    const Outcome redirected = world.run(import);
+    EXPECT_FALSE(redirected.errors.contains(QChar(0x1b))) << redirected;
+    const Outcome quiet = RunOnTerminal(world, QStringList{QStringLiteral("--quiet")} + import, {});
+    EXPECT_FALSE(quiet.output.contains(QChar(0x1b))) << quiet;
+}
