@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "fault/fingerprint.h"
+
+#include <QtCore/QCryptographicHash>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace stemwright::test
+{
+
+namespace
+{
+
+/// Adds every value of a query's rows, with its type and length, and returns the number of rows.
+int AddRows(QCryptographicHash& hash, const SQLite::Database& database, const std::string& sql)
+{
+    int rows = 0;
+    SQLite::Statement statement(database, sql);
+    for (; statement.executeStep(); ++rows) {
+        for (int index = 0; index < statement.getColumnCount(); ++index) {
+            const SQLite::Column column = statement.getColumn(index);
+            hash.addData(QByteArray::number(column.getType()) + ':' + QByteArray::number(column.getBytes()) + ':');
+            hash.addData({static_cast<const char*>(column.getBlob()), column.getBytes()});
+        }
+    }
+    return rows;
+}
+
+} // namespace
+
+QString Fingerprint(const QString& path)
+{
+    const SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
+    const std::string kept = "tbl_name NOT IN ('Indi2Page', 'UniqueIds', 'sqlite_sequence')";
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    AddRows(hash, database, "SELECT name, sql FROM sqlite_master WHERE " + kept + " ORDER BY name");
+    SQLite::Statement tables(database,
+                             "SELECT name FROM sqlite_master WHERE type = 'table' AND name <> 'GenInfo' AND " + kept +
+                                 " ORDER BY name");
+    int rows = 0;
+    while (tables.executeStep()) {
+        rows += AddRows(hash, database, "SELECT * FROM \"" + tables.getColumn(0).getString() + "\" ORDER BY rowid");
+    }
+    return QStringLiteral("%1 rows, %2").arg(rows).arg(QString::fromLatin1(hash.result().toHex().left(16)));
+}
+
+} // namespace stemwright::test

@@ -1,0 +1,243 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+
+// Ends imports or publications at random moments and holds what they leave behind against what it may be: a family file
+// that `stemwright-cli check` passes and that holds the old or the new tree, and a site that the next publication makes
+// whole again. Status 0 when all of it held, 1 when not. CONTRIBUTING.md says how to run it at length.
+
+#include "base/files.h"
+#include "cli/cliworld.h"
+#include "fault/fingerprint.h"
+#include "treegenerator.h"
+
+#include <CLI/CLI.hpp>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QCryptographicHash>
+#include <QtCore/QDirIterator>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
+
+#include <csignal>
+#include <iostream>
+#include <random>
+#include <thread>
+
+using namespace stemwright;
+using namespace stemwright::test;
+
+namespace
+{
+
+struct Options {
+    std::string work;
+    int times = 100;
+    unsigned seed = 1;
+    std::string signal = "KILL";
+};
+
+/// Something that was left behind as it must not be.
+struct Wrong {
+    QString what;
+};
+
+QByteArray Tree(std::uint32_t individuals)
+{
+    QByteArray text;
+    bench::GenerateTree(individuals, [&text](std::string_view piece) {
+        text.append(piece.data(), static_cast<qsizetype>(piece.size()));
+    });
+    return text;
+}
+
+void Copy(const QString& from, const QString& to)
+{
+    QFile::remove(to);
+    if (!QFile::copy(from, to)) {
+        throw Wrong{QStringLiteral("cannot copy %1").arg(from)};
+    }
+}
+
+/// Every file's name and content below a folder.
+QByteArray SiteSum(const QString& folder)
+{
+    QStringList files;
+    for (QDirIterator all(folder, QDir::Files, QDirIterator::Subdirectories); all.hasNext();) {
+        files << all.next();
+    }
+    files.sort();
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (const QString& file : files) {
+        hash.addData(file.toUtf8());
+        hash.addData(ReadWholeFile(file));
+    }
+    return hash.result();
+}
+
+class KillTest
+{
+public:
+    explicit KillTest(const Options& options)
+        : m_options(options), m_random(options.seed), m_file(m_world.path(QStringLiteral("work.kvf"))),
+          m_site(m_world.path(QStringLiteral("site")))
+    {
+    }
+
+    void killImports();
+    void killPublications();
+
+private:
+    void run(const QStringList& arguments) const;
+    void makeBase(std::uint32_t individuals);
+    double secondsOf(const QStringList& arguments) const;
+    /// Starts the command and sends the signal within `seconds`, spread evenly; whether it was still running. When it
+    /// was not, the time is shortened, since the machine may have been slower when it was measured.
+    bool interrupt(const QStringList& arguments, double& seconds);
+    /// The fingerprint of a file that has to pass the check.
+    QString soundFile(const QString& path) const;
+    void report(int inTime, const QString& more) const;
+
+    const Options& m_options;
+    std::mt19937 m_random;
+    CliWorld m_world;
+    const QString m_file;
+    const QString m_site;
+    const QString m_base = m_world.path(QStringLiteral("base.kvf"));
+    const QStringList m_publish = {QStringLiteral("--yes"), QStringLiteral("publish"), m_file,
+                                   QStringLiteral("--output"), m_site};
+};
+
+void KillTest::run(const QStringList& arguments) const
+{
+    const Outcome outcome = m_world.run(arguments);
+    if (outcome.status != 0) {
+        throw Wrong{QStringLiteral("%1: %2").arg(arguments.join(u' '), outcome.errors)};
+    }
+}
+
+void KillTest::makeBase(std::uint32_t individuals)
+{
+    const QString tree = m_world.write(QStringLiteral("old.ged"), Tree(individuals));
+    run({QStringLiteral("new"), m_base});
+    run({QStringLiteral("--yes"), QStringLiteral("import"), m_base, tree});
+}
+
+double KillTest::secondsOf(const QStringList& arguments) const
+{
+    QElapsedTimer timer;
+    timer.start();
+    run(arguments);
+    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
+}
+
+bool KillTest::interrupt(const QStringList& arguments, double& seconds)
+{
+    QProcess program;
+    program.setProcessEnvironment(m_world.environment());
+    program.setStandardInputFile(QProcess::nullDevice());
+    program.start(QStringLiteral(STEMWRIGHT_CLI), arguments);
+    if (!program.waitForStarted()) {
+        throw Wrong{QStringLiteral("the program does not start")};
+    }
+    std::this_thread::sleep_for(std::chrono::duration<double>(std::uniform_real_distribution(0.0, seconds)(m_random)));
+    const int signal = m_options.signal == "INT" ? SIGINT : m_options.signal == "TERM" ? SIGTERM : SIGKILL;
+    ::kill(static_cast<pid_t>(program.processId()), signal);
+    if (!program.waitForFinished()) {
+        throw Wrong{QStringLiteral("the program goes on after the signal")};
+    }
+    const bool inTime = program.exitStatus() == QProcess::CrashExit;
+    seconds *= inTime ? 1.0 : 0.9;
+    return inTime;
+}
+
+QString KillTest::soundFile(const QString& path) const
+{
+    run({QStringLiteral("check"), path});
+    return Fingerprint(path);
+}
+
+/// A run in which hardly any signal came in time has shown nothing.
+void KillTest::report(int inTime, const QString& more) const
+{
+    const QString text = QStringLiteral("%1 of %2 signals came in time; %3").arg(inTime).arg(m_options.times).arg(more);
+    if (inTime * 3 < m_options.times) {
+        throw Wrong{text};
+    }
+    std::cout << text.toStdString() << std::endl;
+}
+
+void KillTest::killImports()
+{
+    makeBase(2'000);
+    const QString tree = m_world.write(QStringLiteral("new.ged"), Tree(20'000));
+    const QStringList import = {QStringLiteral("--yes"), QStringLiteral("import"), m_file, tree};
+    Copy(m_base, m_file);
+    const QString before = soundFile(m_file);
+    double seconds = secondsOf(import);
+    const QString after = soundFile(m_file);
+    int inTime = 0;
+    int old = 0;
+    for (int number = 0; number < m_options.times; ++number) {
+        Copy(m_base, m_file);
+        inTime += interrupt(import, seconds) ? 1 : 0;
+        const QString found = soundFile(m_file);
+        if (found != before && found != after) {
+            throw Wrong{QStringLiteral("the file holds neither tree: %1, not %2 or %3").arg(found, before, after)};
+        }
+        old += found == before ? 1 : 0;
+        const QString backup = m_world.path(QStringLiteral("work.ffb"));
+        if (QFile::exists(backup) && soundFile(backup) != before) {
+            throw Wrong{QStringLiteral("the backup is not the old file")};
+        }
+    }
+    report(inTime, QStringLiteral("%1 old trees, %2 new ones").arg(old).arg(m_options.times - old));
+}
+
+void KillTest::killPublications()
+{
+    makeBase(5'000);
+    Copy(m_base, m_file);
+    run(m_publish);
+    const QString before = soundFile(m_file);
+    double seconds = secondsOf(m_publish);
+    const QByteArray site = SiteSum(m_site);
+    int inTime = 0;
+    for (int number = 0; number < m_options.times; ++number) {
+        inTime += interrupt(m_publish, seconds) ? 1 : 0;
+        if (soundFile(m_file) != before) {
+            throw Wrong{QStringLiteral("the publication changed the family tree")};
+        }
+    }
+    run(m_publish);
+    if (SiteSum(m_site) != site) {
+        throw Wrong{QStringLiteral("the publication after the last one that was interrupted is another")};
+    }
+    report(inTime, QStringLiteral("the tree stayed, and the next publication is whole"));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    Options options;
+    CLI::App app("Ends the program at random moments and looks at what it leaves behind.");
+    app.add_option("WORK", options.work, "What to interrupt")->required()->check(CLI::IsMember({"import", "publish"}));
+    app.add_option("--times", options.times, "How often")->capture_default_str()->check(CLI::PositiveNumber);
+    app.add_option("--seed", options.seed, "Chooses the moments")->capture_default_str();
+    app.add_option("--signal", options.signal, "How")
+        ->capture_default_str()
+        ->check(CLI::IsMember({"KILL", "INT", "TERM"}));
+    CLI11_PARSE(app, argc, argv);
+    try {
+        KillTest test(options);
+        options.work == "import" ? test.killImports() : test.killPublications();
+    } catch (const Wrong& wrong) {
+        std::cerr << "killtest: " << wrong.what.toStdString() << std::endl;
+        return 1;
+    } catch (const std::exception& exception) {
+        std::cerr << "killtest: " << exception.what() << std::endl;
+        return 1;
+    }
+    return 0;
+}
