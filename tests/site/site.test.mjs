@@ -1,0 +1,224 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+
+// Sites that the program published, opened from disk as their visitors open them.
+
+import assert from "node:assert/strict";
+import fs from "node:fs";
+import path from "node:path";
+import { after, before, test } from "node:test";
+import { fileURLToPath, pathToFileURL } from "node:url";
+import { discard, filesOf, pagesOf, publish, wholeText } from "./published.mjs";
+import { launch, openSite, screens, showInCentre } from "./support.mjs";
+
+const oldBook = { PageStyle: 0 };
+const memories = { PageStyle: 1 };
+const outline = (head) => ({ head, display: "Outline" });
+const collapsible = (head) => ({ head, display: "CollapsiTree" });
+
+const kinds = {
+    "one outline, personal pages": { gedcom: "thornbury.ged", settings: { ...oldBook, PersPages: 1, MaxGenOnPage: 3 }, trees: [outline(1)] },
+    "several trees, personal pages": { gedcom: "thornbury.ged", settings: { ...memories, PersPages: 1, MaxGenOnPage: 2 }, trees: [outline(1), collapsible(1), outline(3)] },
+    "several trees, no personal pages": { gedcom: "thornbury.ged", settings: { ...oldBook, PersPages: 0, MaxGenOnPage: 2 }, trees: [collapsible(1), outline(1)] },
+    "one collapsible tree, no personal pages": { gedcom: "thornbury.ged", settings: { ...memories, PersPages: 0 }, trees: [collapsible(1)] },
+    "a subsite": { gedcom: "thornbury.ged", settings: { ...oldBook, PersPages: 1, Standalone: 0, HomePageName: "../family.kvf" }, trees: [outline(1)] },
+    "hostile texts, personal pages": { gedcom: "hostile.ged", settings: { ...oldBook, PersPages: 1, MaxGenOnPage: 2 }, trees: [outline(1), collapsible(1)] },
+    "hostile texts, no personal pages": { gedcom: "hostile.ged", settings: { ...memories, PersPages: 0, MaxGenOnPage: 2 }, trees: [collapsible(1), outline(1)] },
+    "living hidden": { gedcom: "living.ged", settings: { ...oldBook, PersPages: 1, HideLiving: 1, MaxPrivacyAge: 900 }, trees: [outline(1), collapsible(1)] },
+    "living hidden, no personal pages": { gedcom: "living.ged", settings: { ...memories, PersPages: 0, HideLiving: 1, MaxPrivacyAge: 900 }, trees: [collapsible(1), outline(1)] },
+    "living shown": { gedcom: "living.ged", settings: { ...oldBook, PersPages: 1, HideLiving: 0, MaxPrivacyAge: 900 }, trees: [outline(1), collapsible(1)] },
+};
+const sites = {};
+let browser;
+
+before(async () => {
+    for (const [kind, recipe] of Object.entries(kinds)) {
+        sites[kind] = publish(recipe);
+    }
+    browser = await launch();
+});
+
+after(async () => {
+    await browser?.close();
+    Object.values(sites).forEach(discard);
+});
+
+async function visit(t, kind, { screen = screens.desktop, page = "index.html" } = {}) {
+    const opened = await openSite(browser, sites[kind], screen, page);
+    t.after(() => opened.context().close());
+    return opened;
+}
+
+// What a document refers to, as the browser resolves it, and the anchors that it offers.
+function referencesAndAnchors() {
+    const of = (attribute) => [...document.querySelectorAll(`[${attribute}]`)].map((element) => ({
+        url: new URL(element.getAttribute(attribute), document.baseURI).href, target: element.getAttribute("target"),
+    }));
+    return {
+        references: ["href", "src", "background", "action"].flatMap(of),
+        anchors: [...document.querySelectorAll("[id],[name]")].flatMap((element) => [element.id, element.getAttribute("name")]),
+    };
+}
+
+// Whole references within the scripts of a page, which stand in no attribute until the script has run.
+function referencesInScripts(site, name) {
+    const text = fs.readFileSync(path.join(site, name), "latin1");
+    const scripts = [...text.matchAll(/<script[^>]*>(.*?)<\/script>/gis)].map((found) => found[1]).join("\n");
+    return [...scripts.matchAll(/\b(?:href|src)\s*=\s*\\?["']([^"'\\<>]+)\\?["'](?!\s*\+)/gi)]
+        .map((found) => ({ url: new URL(found[1], pathToFileURL(path.join(site, name))).href, target: null }));
+}
+
+// The frameset, its small frames, and personal pages past the first ones, which are all made in one way.
+const notInCentre = /^(index|topleft|topright|left|bottom|PersPage_\d*[2-9]\d)\.html$/;
+const targets = [null, "", "_top", "_parent", "_self", "_blank", "frmTopLeft", "frmTopRight", "frmLeft", "frmCenter", "frmBottom"];
+
+for (const kind of Object.keys(kinds)) {
+    test(`nothing leads nowhere: ${kind}`, async (t) => {
+        const site = sites[kind];
+        const page = await visit(t, kind);
+        const seen = {};
+        for (const name of pagesOf(site)) {
+            await page.goto(pathToFileURL(path.join(site, name)).href);
+            seen[name] = await page.evaluate(referencesAndAnchors);
+            seen[name].references.push(...referencesInScripts(site, name));
+        }
+        const frames = new Set(await page.goto(pathToFileURL(path.join(site, "index.html")).href).then(() => page.frames().map((frame) => frame.name())));
+        const nowhere = [];
+        let followed = 0;
+        for (const [name, { references }] of Object.entries(seen)) {
+            for (const { url, target } of references) {
+                const complain = (why) => nowhere.push(`${name}: ${url} ${target ?? ""} ${why}`);
+                if (!targets.includes(target) || (target?.startsWith("frm") && !frames.has(target))) {
+                    complain("names no frame");
+                }
+                if (/^mailto:\S+@\S+$/.test(url)) {
+                    continue;
+                }
+                if (!url.startsWith("file:")) {
+                    complain("leaves the site");
+                    continue;
+                }
+                const address = new URL(url);
+                const anchor = decodeURIComponent(address.hash.slice(1));
+                address.hash = "";
+                const file = path.relative(site, fileURLToPath(address));
+                followed += 1;
+                if (!fs.existsSync(path.join(site, file)) || (file.startsWith("..") && kind !== "a subsite")) {
+                    complain("is not there");
+                } else if (anchor && file !== "index.html" && !seen[file]?.anchors.includes(anchor)) {
+                    complain("is an anchor that is not there");
+                }
+            }
+        }
+        assert.deepEqual(nowhere, []);
+        assert.ok(followed > 50, `only ${followed} links were found`);
+        const linked = new Set(Object.values(seen).flatMap(({ references }) => references.map(({ url }) => path.relative(site, fileURLToPath(url.startsWith("file:") ? url.split("#")[0] : "file:///")))));
+        assert.deepEqual(pagesOf(site).filter((name) => !linked.has(name) && name !== "index.html" && (name !== "TreeList.html" || kinds[kind].trees.length > 1)), [], "pages that nothing leads to");
+    });
+
+    test(`every page opens in its frame without a complaint: ${kind}`, async (t) => {
+        const page = await visit(t, kind);
+        for (const name of pagesOf(sites[kind]).filter((file) => !notInCentre.test(file))) {
+            const centre = await showInCentre(page, name);
+            assert.equal(await page.locator("frame").count(), 5);
+            assert.ok((await centre.locator("body").innerText()).trim().length > 0, `${name} is empty`);
+            for (const frame of page.frames()) {
+                assert.equal(await frame.evaluate(() => window.hacked), undefined, `a script ran in ${frame.name()} with ${name}`);
+            }
+        }
+        assert.deepEqual(page.complaints, []);
+    });
+
+    test(`on a phone the pages have the screen: ${kind}`, async (t) => {
+        const page = await visit(t, kind, { screen: screens.phone });
+        const box = await page.locator("frame[name=frmCenter]").boundingBox();
+        assert.ok(box.height >= 0.75 * 844 && box.width >= 0.9 * 390, `${box.width} x ${box.height}`);
+    });
+}
+
+test("the path of pages shows, page by page, and leads back", async (t) => {
+    const kind = "several trees, personal pages";
+    const page = await visit(t, kind);
+    const pathFrame = page.frame("frmTopLeft");
+    const deepest = [];
+    for (const name of pagesOf(sites[kind]).filter((file) => file.startsWith("Outline_"))) {
+        const centre = await showInCentre(page, name);
+        const title = await centre.title();
+        await pathFrame.locator("#DocOwner").getByText(title, { exact: true }).waitFor({ timeout: 5000 });
+        await pathFrame.locator("#Icon img").waitFor();
+        const roots = await pathFrame.locator("#DocRoots a").allTextContents();
+        if (roots.length > deepest.length) {
+            deepest.splice(0, Infinity, ...roots);
+            await pathFrame.locator("#DocRoots a").first().click();
+            await pathFrame.locator("#DocOwner").getByText("Descendants of Josiah Thornbury", { exact: true }).waitFor({ timeout: 5000 });
+            assert.equal(await pathFrame.locator("#DocRoots a").count(), 0);
+        }
+    }
+    assert.ok(deepest.length >= 2 && deepest[0].includes("Thornbury"), `the longest path is ${deepest}`);
+    assert.deepEqual(page.complaints, []);
+});
+
+test("the parts of the site are reached from the upper frame", async (t) => {
+    const page = await visit(t, "several trees, personal pages");
+    const links = page.frame("frmTopRight").locator("a");
+    assert.ok(await links.count() >= 3);
+    for (let place = 0; place < await links.count(); place += 1) {
+        const href = await links.nth(place).getAttribute("href");
+        await links.nth(place).click();
+        await page.frame("frmCenter").waitForURL((address) => address.href.endsWith(`/${href}`));
+    }
+});
+
+// What of a hostile file has to show on its pages as it was typed.
+const typed = {
+    names: ["\"><script>window.hacked=1<", "\u0410\u0433\u0430\u0444\u044c\u044f \u041b\u044c\u0432\u043e\u0432\u043d\u0430", "\u039f\u03b4\u03c5\u03c3\u03c3\u03ad\u03b1\u03c2", "\u05e9\u05e8\u05d4", "\u5c0f\u660e",
+        "\u{20bb7}", "Back\\slash \\u0041 \\\"", "O'Brien \"Bo\"", "A & B &amp; C &#65;", "<u>Bold<u>", "\"><img src=x onerror=window.hacked=1>", "\u017b\u00f3\u0142\u0107-\u00d1and\u00fa", "$TreeHeadName %1 %2", "${x} `y`",
+        "'+window.hacked+'", "\u00dftra\u00dfe", "\u00deorl\u00e1ksd\u00f3ttir"],
+    places: ["\"><script>window.hacked=1</script>, \u0391\u03b8\u03ae\u03bd\u03b1, \u041a\u0438\u0457\u0432, \u05d9\u05e8\u05d5\u05e9\u05dc\u05d9\u05dd, \u5317\u4eac", "<iframe src=javascript:window.top.hacked=1>"],
+    title: "</script><script>window.hacked=1</script>Count",
+};
+
+for (const kind of Object.keys(kinds).filter((name) => name.startsWith("hostile"))) {
+    test(`hostile and foreign texts show as typed: ${kind}`, async (t) => {
+        const page = await visit(t, kind);
+        const text = {};
+        for (const name of pagesOf(sites[kind]).filter((file) => /^(Outline|CTree|PersPage|NameIndex|TreeList)/.test(file))) {
+            const centre = await showInCentre(page, name);
+            const prefix = name.match(/^[A-Za-z]+/)[0];
+            text[prefix] = `${text[prefix] ?? ""}\n${await centre.evaluate(() => document.body.textContent.replace(/\u00a0/g, " "))}`;
+            if (/^(Outline|CTree)_._1\.html$/.test(name)) {
+                const owner = `Descendants of ${typed.title} ${typed.names[0]} script>`;
+                await page.frame("frmTopLeft").locator("#DocOwner").getByText(owner, { exact: true }).waitFor({ timeout: 5000 });
+            }
+        }
+        const expected = {
+            Outline: [...typed.names, ...typed.places, typed.title], CTree: [...typed.names, ...typed.places, typed.title],
+            NameIndex: typed.names, TreeList: [typed.names[0]],
+            ...(kinds[kind].settings.PersPages ? { PersPage: [...typed.names, ...typed.places] } : {}),
+        };
+        for (const [prefix, pieces] of Object.entries(expected)) {
+            assert.deepEqual(pieces.filter((piece) => !text[prefix]?.includes(piece)), [], `missing on the pages ${prefix}`);
+        }
+        assert.deepEqual(page.complaints, []);
+    });
+}
+
+// Names, dates and places that only protected persons of living.ged have, and their children.
+const secrets = ["Zephyrine", "Quillander", "Xanthia", "Yarborov", "Ulalume", "\u0416\u0438\u0432\u043e\u0441\u043b\u0430\u0432\u0430", "\u041f\u043e\u0442\u0430\u0451\u043d\u043d\u0430\u044f", "Zolt\u00e1n", "\u00d6bsc\u00fcrsson", "Ignatz",
+    "Nebelkind", "Dorothea", "Hiddenham", "Veilchester", "1961", "1963", "1985", "1987", "1989", "1991", "1993", "2011", "1979", "1983", "2009",
+    "17 Jul", "23 Oct", "11 Nov", "19 Sep", "5 May", "13 Dec", "14 Apr", "15 May", "24 Sep", "27 Aug", "28 Feb"];
+const holds = (text, secret) => new RegExp(`(?<![0-9])${secret}(?![0-9])`, "iu").test(text);
+
+test("with living people hidden, nothing of them stands anywhere", () => {
+    for (const kind of ["living hidden", "living hidden, no personal pages"]) {
+        const text = wholeText(sites[kind]);
+        assert.deepEqual(secrets.filter((secret) => holds(text, secret)), [], kind);
+        assert.deepEqual(filesOf(sites[kind]).filter((name) => /^PersPage_(4|5|7|8|12|13|14)\./.test(name)), []);
+        assert.ok(["Josiah", "Susannah", "Ambrose", "Hester", "Silas", "Felix", "9 Jun 1920"].every((shown) => holds(text, shown)), kind);
+    }
+});
+
+test("with living people shown, the search above would find them", () => {
+    const text = wholeText(sites["living shown"]);
+    assert.deepEqual(secrets.filter((secret) => !holds(text, secret)), []);
+});
