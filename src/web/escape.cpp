@@ -73,16 +73,9 @@ void AppendAscii(std::string& page, char character, const AsciiTable& table)
     }
 }
 
-/// U+0080 to U+009F are written as references too: browsers read these bytes as characters of Windows-1252.
-void AppendBeyondAscii(std::string& page, unsigned character)
+void AppendReference(std::string& page, unsigned character)
 {
-    constexpr unsigned firstLatin = 0xA0;
-    constexpr unsigned lastLatin = 0xFF;
-    if (character >= firstLatin && character <= lastLatin) {
-        page.push_back(static_cast<char>(character));
-    } else {
-        page.append("&#").append(std::to_string(character)).push_back(';');
-    }
+    page.append("&#").append(std::to_string(character)).push_back(';');
 }
 
 void Append(std::string& page, std::string_view utf8, const AsciiTable& table)
@@ -98,7 +91,7 @@ void Append(std::string& page, std::string_view utf8, const AsciiTable& table)
                 if (character < endOfAscii) {
                     AppendAscii(page, static_cast<char>(character), table);
                 } else {
-                    AppendBeyondAscii(page, character);
+                    AppendReference(page, character);
                 }
             }
             return;
