@@ -106,7 +106,8 @@ std::string_view SpouseWord(const SiteRun& run, TreePosition family, TreePositio
 
 void AppendDuplicateLink(std::string& page, const SiteRun& run, const PublishedTree& tree, const TreeEntry& entry)
 {
-    page.append(" <A HREF=\"").append(MainEntryAddress(run, tree, entry.person));
+    page.append(" <A HREF=\"");
+    AppendMainEntryAddress(page, run, tree, entry.person);
     page.append(entry.kind == EntryKind::Individual ? "\">(Duplicate: Go to the main entry of this person)</A>"
                                                     : "\">(Duplicate: go to the main entry of this person)</A>");
 }
