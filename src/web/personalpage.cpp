@@ -89,7 +89,7 @@ private:
     void writeHeading()
     {
         page().append("<H3>");
-        AppendText(page(), m_run.names.displayName(m_person));
+        page().append(m_run.names.displayHtml(m_person));
         page().append("&nbsp;");
         AppendTreeLinks(page(), m_run, m_person);
         AppendContactLinks(page(), m_run, m_person);
@@ -139,11 +139,12 @@ private:
             return;
         }
         if (!m_run.isOnSite(person)) {
-            AppendText(page(), m_run.names.displayName(person));
+            page().append(m_run.names.displayHtml(person));
             return;
         }
-        page().append("<A HREF=\"").append(PersonalPageName(m_run.tree.individualId(person))).append("\">");
-        AppendText(page(), m_run.names.displayName(person));
+        page().append("<A HREF=\"");
+        AppendPersonalPageName(page(), m_run.tree.individualId(person));
+        page().append("\">").append(m_run.names.displayHtml(person));
         page().append("</A>&nbsp;");
         AppendTreeLinks(page(), m_run, person);
         AppendContactLinks(page(), m_run, person);

@@ -118,7 +118,7 @@ private:
         const RunSettings settings = RunSettings::of(*m_setup, m_environment.clock);
         m_texts = SiteTexts::load(m_connection, m_tree, m_setup->items);
         m_privacy.emplace(m_tree, *m_texts, settings.protectedPersons, settings.maxPrivacyAge, settings.currentYear);
-        m_names.emplace(*m_texts);
+        m_names.emplace(*m_texts, m_tree.individuals());
         m_run.emplace(SiteRun{
             *m_setup, settings, m_tree, *m_texts, *m_privacy, *m_names, m_environment.application, m_folder, {}});
     }

@@ -100,7 +100,16 @@ std::string TreeIcon(const TreeDefinition& tree)
 
 std::string PersonalPageName(int individualId)
 {
-    return "PersPage_" + std::to_string(individualId) + ".html";
+    std::string name;
+    AppendPersonalPageName(name, individualId);
+    return name;
+}
+
+void AppendPersonalPageName(std::string& page, int individualId)
+{
+    page.append("PersPage_");
+    AppendNumber(page, individualId);
+    page.append(".html");
 }
 
 void AppendMainEntryAddress(std::string& page, const SiteRun& run, const PublishedTree& tree, TreePosition person)

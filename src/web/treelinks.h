@@ -30,6 +30,9 @@ std::string TreeIcon(const TreeDefinition& tree);
 /// "PersPage_42.html"
 std::string PersonalPageName(int individualId);
 
+/// Appends the same.
+void AppendPersonalPageName(std::string& page, int individualId);
+
 /// Appends the page of the main entry of a person of this tree, with the entry's anchor: "Outline_3_17.html#42".
 void AppendMainEntryAddress(std::string& page, const SiteRun& run, const PublishedTree& tree, TreePosition person);
 
