@@ -10,18 +10,16 @@ namespace stemwright
 namespace
 {
 
-std::vector<std::int32_t> LoadIds(Connection& connection, const QString& sql)
-{
-    std::vector<std::int32_t> ids;
-    Statement statement = connection.prepare(sql);
-    while (statement.step()) {
-        ids.push_back(statement.integer(0));
-    }
-    return ids;
-}
-
 std::optional<TreePosition> Find(std::span<const std::int32_t> ids, int id)
 {
+    if (ids.empty() || id < ids.front()) {
+        return std::nullopt;
+    }
+    // Most files number their records without gaps; then the number says the place.
+    const auto guess = static_cast<std::size_t>(std::int64_t{id} - ids.front());
+    if (guess < ids.size() && ids[guess] == id) {
+        return static_cast<TreePosition>(guess);
+    }
     const auto found = std::lower_bound(ids.begin(), ids.end(), id);
     if (found == ids.end() || *found != id) {
         return std::nullopt;
@@ -68,14 +66,13 @@ TreeLinks::TreeLinks(std::size_t owners, std::vector<Link> given) : m_begin(owne
 FamilyTree FamilyTree::load(Connection& connection)
 {
     FamilyTree tree;
-    tree.m_individualIds = LoadIds(connection, QStringLiteral("SELECT Id FROM Indi ORDER BY Id"));
-    tree.m_familyIds = LoadIds(connection, QStringLiteral("SELECT Id FROM Fam ORDER BY Id"));
-    tree.m_recordedFamilies = tree.m_familyIds.size();
-    tree.addMissingFamilies(connection);
+    const std::vector<FamilyMention> asChild = tree.loadIndividuals(connection);
     tree.loadFamilies(connection);
-    tree.loadParents(connection);
     tree.loadChildren(connection);
-    tree.loadSpouseFamilies(connection);
+    const std::vector<FamilyMention> asSpouse = tree.loadSpouses(connection);
+    tree.addMissingFamilies({&asChild, &asSpouse});
+    tree.linkParents(asChild);
+    tree.m_spouseFamilies = TreeLinks(tree.individuals(), tree.linksOf(asSpouse));
     return tree;
 }
 
@@ -95,39 +92,28 @@ TreePosition FamilyTree::partner(TreePosition family, TreePosition individual) c
     return other == individual ? nowhere : other;
 }
 
-void FamilyTree::addMissingFamilies(Connection& connection)
+std::vector<FamilyTree::FamilyMention> FamilyTree::loadIndividuals(Connection& connection)
 {
-    const std::vector<std::int32_t> missing =
-        LoadIds(connection, QStringLiteral("SELECT FamId FROM Spouse2Fam WHERE FamId NOT IN (SELECT Id FROM Fam)"
-                                           " UNION SELECT FAMC FROM Indi WHERE FAMC NOT IN (SELECT Id FROM Fam)"
-                                           " ORDER BY 1"));
-    m_familyIds.insert(m_familyIds.end(), missing.begin(), missing.end());
+    std::vector<FamilyMention> mentions;
+    Statement statement = connection.prepare(QStringLiteral("SELECT Id, FAMC FROM Indi ORDER BY Id"));
+    while (statement.step()) {
+        if (!statement.isNull(1)) {
+            mentions.push_back({static_cast<TreePosition>(m_individualIds.size()), statement.integer(1)});
+        }
+        m_individualIds.push_back(statement.integer(0));
+    }
+    return mentions;
 }
 
 void FamilyTree::loadFamilies(Connection& connection)
 {
-    m_husbands.assign(m_familyIds.size(), nowhere);
-    m_wives.assign(m_familyIds.size(), nowhere);
-    Statement statement = connection.prepare(QStringLiteral("SELECT HusbandId, WifeId FROM Fam ORDER BY Id"));
-    for (std::size_t family = 0; statement.step(); ++family) {
-        m_husbands[family] = positionOfIndividual(statement.optionalInteger(0));
-        m_wives[family] = positionOfIndividual(statement.optionalInteger(1));
+    Statement statement = connection.prepare(QStringLiteral("SELECT Id, HusbandId, WifeId FROM Fam ORDER BY Id"));
+    while (statement.step()) {
+        m_familyIds.push_back(statement.integer(0));
+        m_husbands.push_back(positionOfIndividual(statement.optionalInteger(1)));
+        m_wives.push_back(positionOfIndividual(statement.optionalInteger(2)));
     }
-}
-
-void FamilyTree::loadParents(Connection& connection)
-{
-    m_parentFamilies.assign(m_individualIds.size(), nowhere);
-    std::vector<TreeLinks::Link> links;
-    Statement statement = connection.prepare(QStringLiteral("SELECT FAMC FROM Indi ORDER BY Id"));
-    for (TreePosition individual = 0; statement.step(); ++individual) {
-        const TreePosition family = positionOfFamily(statement.optionalInteger(0));
-        m_parentFamilies[individual] = family;
-        if (family != nowhere) {
-            links.push_back({family, individual});
-        }
-    }
-    m_childrenByParents = TreeLinks(m_familyIds.size(), std::move(links));
+    m_recordedFamilies = m_familyIds.size();
 }
 
 void FamilyTree::loadChildren(Connection& connection)
@@ -135,27 +121,63 @@ void FamilyTree::loadChildren(Connection& connection)
     std::vector<TreeLinks::Link> links;
     Statement statement = connection.prepare(QStringLiteral("SELECT FamId, ChildId FROM Fam2Child ORDER BY rowid"));
     while (statement.step()) {
-        const TreePosition family = positionOfFamily(statement.integer(0));
-        const TreePosition child = positionOfIndividual(statement.integer(1));
-        if (family != nowhere && child != nowhere) {
-            links.push_back({family, child});
+        const std::optional<TreePosition> family = findFamily(statement.integer(0));
+        const std::optional<TreePosition> child = findIndividual(statement.integer(1));
+        if (family && child) {
+            links.push_back({*family, *child});
         }
     }
     m_children = TreeLinks(m_familyIds.size(), std::move(links));
 }
 
-void FamilyTree::loadSpouseFamilies(Connection& connection)
+std::vector<FamilyTree::FamilyMention> FamilyTree::loadSpouses(Connection& connection)
 {
-    std::vector<TreeLinks::Link> links;
+    std::vector<FamilyMention> mentions;
     Statement statement = connection.prepare(QStringLiteral("SELECT SpouseId, FamId FROM Spouse2Fam ORDER BY rowid"));
     while (statement.step()) {
-        const TreePosition spouse = positionOfIndividual(statement.integer(0));
-        const TreePosition family = positionOfFamily(statement.integer(1));
-        if (spouse != nowhere && family != nowhere) {
-            links.push_back({spouse, family});
+        if (const std::optional<TreePosition> spouse = findIndividual(statement.integer(0))) {
+            mentions.push_back({*spouse, statement.integer(1)});
         }
     }
-    m_spouseFamilies = TreeLinks(m_individualIds.size(), std::move(links));
+    return mentions;
+}
+
+void FamilyTree::addMissingFamilies(std::initializer_list<const std::vector<FamilyMention>*> lists)
+{
+    std::vector<std::int32_t> missing;
+    for (const std::vector<FamilyMention>* mentions : lists) {
+        for (const FamilyMention& mention : *mentions) {
+            if (!findFamily(mention.familyId)) {
+                missing.push_back(mention.familyId);
+            }
+        }
+    }
+    std::sort(missing.begin(), missing.end());
+    missing.erase(std::unique(missing.begin(), missing.end()), missing.end());
+    m_familyIds.insert(m_familyIds.end(), missing.begin(), missing.end());
+    m_husbands.resize(m_familyIds.size(), nowhere);
+    m_wives.resize(m_familyIds.size(), nowhere);
+}
+
+void FamilyTree::linkParents(const std::vector<FamilyMention>& asChild)
+{
+    m_parentFamilies.assign(individuals(), nowhere);
+    std::vector<TreeLinks::Link> links = linksOf(asChild);
+    for (TreeLinks::Link& link : links) {
+        m_parentFamilies[link.owner] = link.item;
+        std::swap(link.owner, link.item);
+    }
+    m_childrenByParents = TreeLinks(m_familyIds.size(), std::move(links));
+}
+
+std::vector<TreeLinks::Link> FamilyTree::linksOf(const std::vector<FamilyMention>& mentions) const
+{
+    std::vector<TreeLinks::Link> links;
+    links.reserve(mentions.size());
+    for (const FamilyMention& mention : mentions) {
+        links.push_back({mention.individual, positionOfFamily(mention.familyId)});
+    }
+    return links;
 }
 
 TreePosition FamilyTree::positionOfIndividual(const std::optional<int>& id) const
@@ -163,15 +185,12 @@ TreePosition FamilyTree::positionOfIndividual(const std::optional<int>& id) cons
     return id ? findIndividual(*id).value_or(nowhere) : nowhere;
 }
 
-TreePosition FamilyTree::positionOfFamily(const std::optional<int>& id) const
+TreePosition FamilyTree::positionOfFamily(int id) const
 {
-    if (!id) {
-        return nowhere;
-    }
-    if (const std::optional<TreePosition> family = findFamily(*id)) {
+    if (const std::optional<TreePosition> family = findFamily(id)) {
         return *family;
     }
-    const std::optional<TreePosition> missing = Find(std::span(m_familyIds).subspan(m_recordedFamilies), *id);
+    const std::optional<TreePosition> missing = Find(std::span(m_familyIds).subspan(m_recordedFamilies), id);
     return missing ? static_cast<TreePosition>(*missing + m_recordedFamilies) : nowhere;
 }
 

@@ -73,8 +73,11 @@ public:
         return m_spouseFamilies.of(individual);
     }
 
-    /// The children that the family's record lists (Fam2Child), in that order.
-    std::span<const TreePosition> children(TreePosition family) const { return m_children.of(family); }
+    /// The children that the record of a family lists (Fam2Child), in that order.
+    std::span<const TreePosition> children(TreePosition family) const
+    {
+        return hasRecord(family) ? m_children.of(family) : std::span<const TreePosition>();
+    }
 
     /// The individuals who name the family as their parents' (Indi.FAMC), in the order of their ids.
     std::span<const TreePosition> childrenByParents(TreePosition family) const
@@ -94,14 +97,22 @@ public:
     TreePosition partner(TreePosition family, TreePosition individual) const;
 
 private:
+    /// An individual's reference to a family, which need not exist.
+    struct FamilyMention {
+        TreePosition individual;
+        int familyId;
+    };
+
+    std::vector<FamilyMention> loadIndividuals(Connection& connection);
     void loadFamilies(Connection& connection);
-    void addMissingFamilies(Connection& connection);
-    void loadParents(Connection& connection);
     void loadChildren(Connection& connection);
-    void loadSpouseFamilies(Connection& connection);
+    std::vector<FamilyMention> loadSpouses(Connection& connection);
+    void addMissingFamilies(std::initializer_list<const std::vector<FamilyMention>*> lists);
+    void linkParents(const std::vector<FamilyMention>& asChild);
+    std::vector<TreeLinks::Link> linksOf(const std::vector<FamilyMention>& mentions) const;
     TreePosition positionOfIndividual(const std::optional<int>& id) const;
     /// The position of any family that is mentioned.
-    TreePosition positionOfFamily(const std::optional<int>& id) const;
+    TreePosition positionOfFamily(int id) const;
 
     std::vector<std::int32_t> m_individualIds;
     /// First the families with records, then the missing ones, each part in the order of the ids.

@@ -119,10 +119,11 @@ private:
     {
         const bool linked = m_run.settings.personalPages && entry.person != nowhere && !entry.isDuplicate;
         if (linked) {
-            page().append("<A HREF = \"").append(PersonalPageName(m_run.tree.individualId(entry.person)));
+            page().append("<A HREF = \"");
+            AppendPersonalPageName(page(), m_run.tree.individualId(entry.person));
             page().append("\" TITLE=\"This Individual's Personal Page\">");
         }
-        AppendText(page(), EntryName(m_run, entry));
+        AppendEntryName(page(), m_run, entry);
         page().append(linked ? "</A></B> " : "</B> ");
         AppendEntryItems(page(), m_run, m_tree.walk, entry);
         if (entry.isDuplicate) {

@@ -92,6 +92,15 @@ std::string EntryName(const SiteRun& run, const TreeEntry& entry)
     return entry.person == nowhere ? std::string(unknownPerson) : run.names.displayName(entry.person);
 }
 
+void AppendEntryName(std::string& page, const SiteRun& run, const TreeEntry& entry)
+{
+    if (entry.person == nowhere) {
+        AppendText(page, unknownPerson);
+    } else {
+        page.append(run.names.displayHtml(entry.person));
+    }
+}
+
 std::string_view SpouseWord(const SiteRun& run, TreePosition family, TreePosition individual)
 {
     const std::string_view status = run.texts.family(family, familycolumn::status).value_or("");
@@ -106,7 +115,8 @@ std::string_view SpouseWord(const SiteRun& run, TreePosition family, TreePositio
 
 void AppendDuplicateLink(std::string& page, const SiteRun& run, const PublishedTree& tree, const TreeEntry& entry)
 {
-    page.append(" <A HREF=\"").append(MainEntryAddress(run, tree, entry.person));
+    page.append(" <A HREF=\"");
+    AppendMainEntryAddress(page, run, tree, entry.person);
     page.append(entry.kind == EntryKind::Individual ? "\">(Duplicate: Go to the main entry of this person)</A>"
                                                     : "\">(Duplicate: go to the main entry of this person)</A>");
 }

@@ -16,6 +16,9 @@ void AppendEntryItems(std::string& page, const SiteRun& run, const TreeWalk& wal
 /// The entry's name, plain UTF-8.
 std::string EntryName(const SiteRun& run, const TreeEntry& entry);
 
+/// Appends the entry's name as element text.
+void AppendEntryName(std::string& page, const SiteRun& run, const TreeEntry& entry);
+
 /// "Husband", "Wife", "Partner" or "Friend": what the spouse of a family is to the individual.
 std::string_view SpouseWord(const SiteRun& run, TreePosition family, TreePosition individual);
 

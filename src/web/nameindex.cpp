@@ -50,7 +50,8 @@ public:
         writeHeading(name);
         page().append("<BR>");
         if (m_run.settings.personalPages) {
-            page().append("<A HREF = \"").append(PersonalPageName(m_run.tree.individualId(person)));
+            page().append("<A HREF = \"");
+            AppendPersonalPageName(page(), m_run.tree.individualId(person));
             page().append("\" TITLE=\"This individual's personal page\">");
         }
         AppendText(page(), name);

@@ -192,7 +192,7 @@ private:
         page().append("<B>").append(std::to_string(entry.families));
         page().append(entry.families == 2 ? "nd " : entry.families == 3 ? "rd " : "th ");
         page().append(SpouseWord(m_run, entry.family, individual.person)).append(" of ");
-        AppendText(page(), EntryName(m_run, individual));
+        AppendEntryName(page(), m_run, individual);
         page().append("</B>");
         endLine();
     }
@@ -200,7 +200,7 @@ private:
     void writeDuplicate(const TreeEntry& entry)
     {
         page().append("<B>");
-        AppendText(page(), EntryName(m_run, entry));
+        AppendEntryName(page(), m_run, entry);
         page().append("</B>");
         AppendEntryItems(page(), m_run, m_tree.walk, entry);
         AppendDuplicateLink(page(), m_run, m_tree, entry);
@@ -212,12 +212,13 @@ private:
     {
         const bool linked = m_run.settings.personalPages && entry.person != nowhere;
         if (linked) {
-            page().append("<A HREF = \"").append(PersonalPageName(idOf(entry)));
+            page().append("<A HREF = \"");
+            AppendPersonalPageName(page(), idOf(entry));
             page().append("\" TITLE=\"This Individual's Personal Page\"><B>");
         } else {
             page().append(" <B>");
         }
-        AppendText(page(), EntryName(m_run, entry));
+        AppendEntryName(page(), m_run, entry);
         page().append(linked ? "</B></A>" : "</B> ");
         AppendEntryItems(page(), m_run, m_tree.walk, entry);
         if (entry.person != nowhere) {

@@ -16,6 +16,7 @@ namespace
 
 constexpr std::string_view rule = "<HR COLOR=\"BLACK\">";
 constexpr std::string_view nothing = "&nbsp;";
+constexpr std::string_view unknownCell = "&lt;Unknown&gt;";
 constexpr std::string_view borderedTable = "<TABLE WIDTH=\"100%\" BORDER=\"1\" CELLPADDING = \"2\"  CELLSPACING=\"0\">";
 
 /// A text as a cell shows it: its lines under each other.
@@ -33,10 +34,27 @@ std::string Lines(std::string_view utf8)
     }
 }
 
+/// Dates are nearly always ASCII, for which the bytes are the characters.
+void AppendCapitalized(std::string& text, std::string_view word)
+{
+    constexpr unsigned char endOfAscii = 0x80;
+    if (std::all_of(word.begin(), word.end(),
+                    [](char byte) { return static_cast<unsigned char>(byte) < endOfAscii; })) {
+        for (std::size_t position = 0; position < word.size(); ++position) {
+            const QChar character = QChar::fromLatin1(word[position]);
+            text.push_back((position == 0 ? character.toUpper() : character.toLower()).toLatin1());
+        }
+        return;
+    }
+    const QString letters = QString::fromUtf8(word.data(), static_cast<qsizetype>(word.size()));
+    const qsizetype first = letters.front().isHighSurrogate() ? 2 : 1;
+    text.append((letters.left(first).toUpper() + letters.mid(first).toLower()).toStdString());
+}
+
 std::string ProperDate(std::string_view date)
 {
     std::string cell;
-    AppendText(cell, ProperCase(QString::fromUtf8(date.data(), static_cast<qsizetype>(date.size()))).toStdString());
+    AppendText(cell, ProperCase(date));
     return cell;
 }
 
@@ -71,7 +89,7 @@ private:
     void writeHeading()
     {
         page().append("<H3>");
-        AppendText(page(), m_run.names.displayName(m_person));
+        page().append(m_run.names.displayHtml(m_person));
         page().append("&nbsp;");
         AppendTreeLinks(page(), m_run, m_person);
         AppendContactLinks(page(), m_run, m_person);
@@ -104,7 +122,8 @@ private:
         for (std::size_t element = chain.size() - 1; element > 0; --element) {
             if (m_run.mayBeNamed(chain[element])) {
                 page().append("<DIV>").append(std::to_string(element));
-                line(personLink(chain[element]) + "</DIV>");
+                appendPersonLink(chain[element]);
+                line("</DIV>");
             }
         }
         line("<BR>");
@@ -112,23 +131,23 @@ private:
 
     /// How the page names another person: with links where that person has a page of his own, without a name where he
     /// or she must not be named.
-    std::string personLink(TreePosition person) const
+    void appendPersonLink(TreePosition person)
     {
-        std::string link(" ");
+        page().push_back(' ');
         if (!m_run.mayBeNamed(person)) {
-            AppendText(link, privatePerson);
-            return link;
+            AppendText(page(), privatePerson);
+            return;
         }
         if (!m_run.isOnSite(person)) {
-            AppendText(link, m_run.names.displayName(person));
-            return link;
+            page().append(m_run.names.displayHtml(person));
+            return;
         }
-        link.append("<A HREF=\"").append(PersonalPageName(m_run.tree.individualId(person))).append("\">");
-        AppendText(link, m_run.names.displayName(person));
-        link.append("</A>&nbsp;");
-        AppendTreeLinks(link, m_run, person);
-        AppendContactLinks(link, m_run, person);
-        return link;
+        page().append("<A HREF=\"");
+        AppendPersonalPageName(page(), m_run.tree.individualId(person));
+        page().append("\">").append(m_run.names.displayHtml(person));
+        page().append("</A>&nbsp;");
+        AppendTreeLinks(page(), m_run, person);
+        AppendContactLinks(page(), m_run, person);
     }
 
     void beginTable(std::string_view first, std::string_view second, std::string_view third)
@@ -196,7 +215,13 @@ private:
     {
         line("<TR>");
         cell("TD", word);
-        cell("TD", parent == nowhere ? "&lt;Unknown&gt;" : personLink(parent));
+        if (parent == nowhere) {
+            cell("TD", unknownCell);
+        } else {
+            page().append("\t<TD>");
+            appendPersonLink(parent);
+            line("</TD>");
+        }
         const bool hidden = (parent != nowhere && !m_run.mayBeNamed(parent)) || isPrivateRelation(relation);
         const auto value = m_run.texts.childInFamily(m_run.tree.parentFamily(m_person), m_person, relation);
         cell("TD", hidden || value.value_or("").empty() ? std::string(nothing) : Lines(*value));
@@ -226,7 +251,11 @@ private:
             }
             const TreePosition partner = m_run.tree.partner(family, m_person);
             page().append("<BR><I>").append(std::to_string(number)).append(". ");
-            page().append(partner == nowhere ? " &lt;Unknown&gt;" : personLink(partner));
+            if (partner == nowhere) {
+                page().append(" ").append(unknownCell);
+            } else {
+                appendPersonLink(partner);
+            }
             line("</I>");
             if (partner == nowhere || m_run.mayBeNamed(partner)) {
                 writeFamilyItems(family, partner, ItemKind::Relationship);
@@ -293,7 +322,8 @@ private:
             line("\t<TD WIDTH=\"10%\"></TD>");
             const bool isSon = m_run.texts.individual(child, individualcolumn::sex).value_or("") == "M";
             line(isSon ? "\t<TD WIDTH=\"10%\">Son:</TD>" : "\t<TD WIDTH=\"10%\">Daughter:</TD>");
-            page().append("\t<TD WIDTH=\"35%\">").append(personLink(child));
+            page().append("\t<TD WIDTH=\"35%\">");
+            appendPersonLink(child);
             line("</TD>");
             writeBirth(child);
             line("</TR>");
@@ -366,18 +396,18 @@ void WritePersonalPage(const SiteRun& run, const std::string& top, PageFile& fil
     file.end();
 }
 
-QString ProperCase(const QString& text)
+std::string ProperCase(std::string_view utf8)
 {
-    QString result;
-    for (const QStringView word : QStringView(text).split(u' ')) {
-        result += u' ';
-        if (!word.isEmpty()) {
-            const qsizetype first = word.front().isHighSurrogate() && word.size() > 1 ? 2 : 1;
-            result += word.first(first).toString().toUpper();
-            result += word.sliced(first).toString().toLower();
+    std::string result;
+    while (true) {
+        const std::size_t end = std::min(utf8.find(' '), utf8.size());
+        result.push_back(' ');
+        AppendCapitalized(result, utf8.substr(0, end));
+        if (end == utf8.size()) {
+            return result;
         }
+        utf8.remove_prefix(end + 1);
     }
-    return result;
 }
 
 } // namespace stemwright

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "web/personnames.h"
 
+#include "web/escape.h"
 #include "web/yearatend.h"
 
 namespace stemwright
@@ -39,7 +40,7 @@ void AppendWords(std::string& name, std::string_view text, std::string_view sepa
 
 } // namespace
 
-NameParts::NameParts(const SiteTexts& texts) : m_texts(texts)
+NameParts::NameParts(const SiteTexts& texts, std::size_t individuals) : m_texts(texts)
 {
     for (const PublishedItem& item : texts.items()) {
         if (item.inTree && IsPartOfName(item)) {
@@ -50,6 +51,12 @@ NameParts::NameParts(const SiteTexts& texts) : m_texts(texts)
         m_shown[individualcolumn::givenName] = true;
         m_shown[individualcolumn::surname] = true;
     }
+    m_htmlBegin.reserve(individuals + 1);
+    for (TreePosition individual = 0; individual < individuals; ++individual) {
+        m_htmlBegin.push_back(m_html.size());
+        AppendText(m_html, displayName(individual));
+    }
+    m_htmlBegin.push_back(m_html.size());
 }
 
 std::string NameParts::displayName(TreePosition individual) const

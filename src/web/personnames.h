@@ -26,10 +26,18 @@ inline constexpr std::size_t partCount = individualcolumn::suffix + 1;
 class NameParts
 {
 public:
-    explicit NameParts(const SiteTexts& texts);
+    NameParts(const SiteTexts& texts, std::size_t individuals);
 
     /// "Title GivenName Surname, Suffix", without the parts that are empty or not shown.
     std::string displayName(TreePosition individual) const;
+
+    /// The display name as element text. The names of all individuals are kept ready, since every page of a relative
+    /// needs them again.
+    std::string_view displayHtml(TreePosition individual) const
+    {
+        return std::string_view(m_html).substr(m_htmlBegin[individual],
+                                               m_htmlBegin[individual + 1] - m_htmlBegin[individual]);
+    }
 
     /// "Surname, GivenName Suffix, Title", likewise: the name in the index of names and its sort key.
     std::string indexName(TreePosition individual) const;
@@ -46,6 +54,9 @@ private:
     const SiteTexts& m_texts;
     /// By the number of the part's column.
     std::array<bool, partCount> m_shown{};
+    /// The names in the encoding of the pages, one after another, and where each begins.
+    std::string m_html;
+    std::vector<std::size_t> m_htmlBegin;
 };
 
 /// Whether an item is a part of the name itself, as opposed to an alias, which follows the name.

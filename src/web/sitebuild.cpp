@@ -91,7 +91,7 @@ private:
     bool isAvailable(const TreeDefinition& tree)
     {
         const std::optional<std::string> prefix = FilePrefix(tree.display);
-        if (prefix != "Outline" && prefix != "CTree") {
+        if (prefix != outlinePrefix && prefix != collapsiTreePrefix) {
             m_environment.talk.tell(webmessages::DisplayNotAvailable(tree.display, tree.headName));
             return false;
         }
@@ -118,7 +118,7 @@ private:
         const RunSettings settings = RunSettings::of(*m_setup, m_environment.clock);
         m_texts = SiteTexts::load(m_connection, m_tree, m_setup->items);
         m_privacy.emplace(m_tree, *m_texts, settings.protectedPersons, settings.maxPrivacyAge, settings.currentYear);
-        m_names.emplace(*m_texts);
+        m_names.emplace(*m_texts, m_tree.individuals());
         m_run.emplace(SiteRun{
             *m_setup, settings, m_tree, *m_texts, *m_privacy, *m_names, m_environment.application, m_folder, {}});
     }
@@ -130,7 +130,7 @@ private:
             addTree(definition);
         }
         for (const PublishedTree& tree : m_run->trees) {
-            const bool isOutline = tree.prefix == "Outline";
+            const bool isOutline = tree.prefix == outlinePrefix;
             const QString display = isOutline ? QStringLiteral("Outline") : QStringLiteral("CollapsiTree");
             StepProgress progress(*m_progress, webmessages::EntryOf(display, QString::fromStdString(tree.headName)),
                                   tree.walk.entries().size());
@@ -152,13 +152,11 @@ private:
             }
             return;
         }
-        const std::string prefix = *FilePrefix(definition.display);
         WalkLimits limits{.totalGenerations = m_run->settings.totalGenerations};
-        if (prefix == "Outline") {
+        if (FilePrefix(definition.display) == outlinePrefix) {
             limits.generationsOnPage = m_run->settings.generationsOnPage;
         }
-        m_run->trees.push_back(
-            {definition, prefix, TidyHeadName(definition), TreeWalk(m_tree, *m_privacy, head, limits)});
+        m_run->trees.push_back(MakePublishedTree(definition, TreeWalk(m_tree, *m_privacy, head, limits)));
         tellMissingFamilies(m_run->trees.back().walk);
     }
 

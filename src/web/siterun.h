@@ -27,13 +27,17 @@ struct RunSettings {
     static RunSettings of(const Setup& setup, const Clock& clock);
 };
 
-/// A tree that is on the site.
+/// A tree that is on the site (MakePublishedTree in treelinks.h).
 struct PublishedTree {
     TreeDefinition definition;
-    /// With which the names of the tree's pages begin, for example "Outline".
+    /// Of the names of the tree's pages: "Outline" or "CTree".
     std::string prefix;
     /// The head's name as the setup has it, UTF-8.
     std::string headName;
+    /// "Outline_3_": what stands before the owner's number in a page's name.
+    std::string pageNameStart;
+    /// HTML: what follows the address in an icon link to an entry.
+    std::string linkEnd;
     TreeWalk walk;
 };
 

@@ -53,6 +53,11 @@ void TextTable::appendLength(std::size_t length)
 
 std::size_t TextTable::readLength(std::size_t& position) const
 {
+    const auto first = static_cast<unsigned char>(m_bytes[position]);
+    if (first < moreFollows) {
+        ++position;
+        return first;
+    }
     std::size_t length = 0;
     for (std::size_t shift = 0;; shift += groupBits) {
         const auto byte = static_cast<unsigned char>(m_bytes[position++]);

@@ -5,6 +5,8 @@
 #include "web/escape.h"
 
 #include <array>
+#include <charconv>
+#include <limits>
 
 namespace stemwright
 {
@@ -17,9 +19,9 @@ struct Display {
     std::string_view prefix;
 };
 
-constexpr std::array<Display, 4> displays = {{{QLatin1StringView("Outline"), "Outline"},
+constexpr std::array<Display, 4> displays = {{{QLatin1StringView("Outline"), outlinePrefix},
                                               {QLatin1StringView("Descendant Tree"), "DescTree"},
-                                              {QLatin1StringView("CollapsiTree"), "CTree"},
+                                              {QLatin1StringView("CollapsiTree"), collapsiTreePrefix},
                                               {QLatin1StringView("Ancestor Tree"), "AncTree"}}};
 
 /// What a display is called in the links to its entries.
@@ -30,7 +32,42 @@ QLatin1StringView DisplayName(std::string_view prefix)
     return display == displays.end() ? QLatin1StringView() : display->name;
 }
 
+/// What follows the address in a link to an entry; the same for all entries of a tree.
+std::string LinkEnd(const TreeDefinition& definition, std::string_view prefix)
+{
+    std::string end("\" TARGET=\"frmCenter\" TITLE=\"This person's entry in ");
+    end.append(DisplayName(prefix).latin1()).append(" of '");
+    AppendText(end, TidyHeadName(definition));
+    end.append("'\"><IMG SRC=\"").append(TreeIcon(definition));
+    return end + "\" ALIGN=\"ABSMIDDLE\" VSPACE=\"0\" BORDER=\"0\"></A>";
+}
+
+void AppendNumber(std::string& page, int number)
+{
+    std::array<char, std::numeric_limits<int>::digits10 + 2> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    page.append(digits.data(), static_cast<std::size_t>(end - digits.data()));
+}
+
+void AppendTreePageName(std::string& page, const PublishedTree& tree, int pageOwnerId)
+{
+    page.append(tree.pageNameStart);
+    AppendNumber(page, pageOwnerId);
+    page.append(".html");
+}
+
 } // namespace
+
+PublishedTree MakePublishedTree(const TreeDefinition& definition, TreeWalk walk)
+{
+    const std::string prefix = FilePrefix(definition.display).value_or(std::string());
+    return {definition,
+            prefix,
+            TidyHeadName(definition),
+            prefix + '_' + std::to_string(definition.number) + '_',
+            LinkEnd(definition, prefix),
+            std::move(walk)};
+}
 
 std::optional<std::string> FilePrefix(const QString& display)
 {
@@ -44,7 +81,9 @@ std::optional<std::string> FilePrefix(const QString& display)
 
 std::string TreePageName(const PublishedTree& tree, int pageOwnerId)
 {
-    return tree.prefix + '_' + std::to_string(tree.definition.number) + '_' + std::to_string(pageOwnerId) + ".html";
+    std::string name;
+    AppendTreePageName(name, tree, pageOwnerId);
+    return name;
 }
 
 std::string FirstPageName(const PublishedTree& tree, const FamilyTree& family)
@@ -61,27 +100,33 @@ std::string TreeIcon(const TreeDefinition& tree)
 
 std::string PersonalPageName(int individualId)
 {
-    return "PersPage_" + std::to_string(individualId) + ".html";
+    std::string name;
+    AppendPersonalPageName(name, individualId);
+    return name;
 }
 
-std::string MainEntryAddress(const SiteRun& run, const PublishedTree& tree, TreePosition person)
+void AppendPersonalPageName(std::string& page, int individualId)
 {
-    return TreePageName(tree, run.tree.individualId(tree.walk.pageOwner(person))) + '#' +
-           std::to_string(run.tree.individualId(person));
+    page.append("PersPage_");
+    AppendNumber(page, individualId);
+    page.append(".html");
+}
+
+void AppendMainEntryAddress(std::string& page, const SiteRun& run, const PublishedTree& tree, TreePosition person)
+{
+    AppendTreePageName(page, tree, run.tree.individualId(tree.walk.pageOwner(person)));
+    page.push_back('#');
+    AppendNumber(page, run.tree.individualId(person));
 }
 
 void AppendTreeLinks(std::string& page, const SiteRun& run, TreePosition person)
 {
     for (const PublishedTree& tree : run.trees) {
-        if (tree.walk.mainEntry(person) == noEntry) {
-            continue;
+        if (tree.walk.mainEntry(person) != noEntry) {
+            page.append("<A HREF=\"");
+            AppendMainEntryAddress(page, run, tree, person);
+            page.append(tree.linkEnd);
         }
-        page.append("<A HREF=\"").append(MainEntryAddress(run, tree, person));
-        page.append("\" TARGET=\"frmCenter\" TITLE=\"This person's entry in ");
-        page.append(DisplayName(tree.prefix).latin1()).append(" of '");
-        AppendText(page, tree.headName);
-        page.append("'\"><IMG SRC=\"").append(TreeIcon(tree.definition));
-        page.append("\" ALIGN=\"ABSMIDDLE\" VSPACE=\"0\" BORDER=\"0\"></A>");
     }
 }
 

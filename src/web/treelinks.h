@@ -8,8 +8,15 @@
 namespace stemwright
 {
 
+/// With which the names of an Outline's and of a CollapsiTree's pages begin.
+inline constexpr std::string_view outlinePrefix = "Outline";
+inline constexpr std::string_view collapsiTreePrefix = "CTree";
+
 /// With which the page names of a display begin; no value for an unknown display.
 std::optional<std::string> FilePrefix(const QString& display);
+
+/// A tree that is on the site from now on.
+PublishedTree MakePublishedTree(const TreeDefinition& definition, TreeWalk walk);
 
 /// "Outline_3_17.html": the page that this individual owns.
 std::string TreePageName(const PublishedTree& tree, int pageOwnerId);
@@ -20,10 +27,14 @@ std::string FirstPageName(const PublishedTree& tree, const FamilyTree& family);
 /// "graphics/icons_tree_09.gif" for a tree whose icon is 10.
 std::string TreeIcon(const TreeDefinition& tree);
 
+/// "PersPage_42.html"
 std::string PersonalPageName(int individualId);
 
-/// The page of the main entry of a person of this tree, with the entry's anchor: "Outline_3_17.html#42".
-std::string MainEntryAddress(const SiteRun& run, const PublishedTree& tree, TreePosition person);
+/// Appends the same.
+void AppendPersonalPageName(std::string& page, int individualId);
+
+/// Appends the page of the main entry of a person of this tree, with the entry's anchor: "Outline_3_17.html#42".
+void AppendMainEntryAddress(std::string& page, const SiteRun& run, const PublishedTree& tree, TreePosition person);
 
 /// Appends one icon link for each tree that the person is in, to the main entry there.
 void AppendTreeLinks(std::string& page, const SiteRun& run, TreePosition person);

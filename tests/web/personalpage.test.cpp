@@ -14,7 +14,7 @@ TEST(PersonalPage, ProperCase)
                                                           {"abt 1850", " Abt 1850"},
                                                           {"\u00e9T\u00c9  X", " \u00c9t\u00e9  X"},
                                                           {"", " "}}) {
-        EXPECT_EQ(ProperCase(QString::fromUtf8(text)), QString::fromUtf8(expected));
+        EXPECT_EQ(ProperCase(text), expected);
     }
 }
 

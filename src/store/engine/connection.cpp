@@ -46,6 +46,13 @@ void Lock(SQLite::Database& database)
     database.exec("PRAGMA synchronous=FULL");
 }
 
+/// A connection serves one thread, so the engine need not lock it at every call.
+int OpenFlags(OpenMode mode)
+{
+    const int create = mode == OpenMode::CreateNew ? SQLite::OPEN_CREATE : 0;
+    return SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX | create;
+}
+
 } // namespace
 
 void Statement::Finalizer::operator()(sqlite3_stmt* statement) const
@@ -212,9 +219,7 @@ std::string_view Statement::utf8(int column) const
 }
 
 Connection::Connection(const QString& path, OpenMode mode)
-    : m_path(path),
-      m_database(path.toUtf8().constData(),
-                 mode == OpenMode::CreateNew ? SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE : SQLite::OPEN_READWRITE)
+    : m_path(path), m_database(path.toUtf8().constData(), OpenFlags(mode))
 {
     Harden(m_database);
     m_database.exec("PRAGMA cache_size=-" + std::to_string(cacheKilobytes));
