@@ -216,8 +216,7 @@ QString NoTreeHeadChosen(const QString& setupName)
 
 QString NoFamilies()
 {
-    return QStringLiteral("Nothing was published, because the family tree has no families. Please import a GEDCOM file"
-                          " first.");
+    return QStringLiteral("Nothing was published, because the family tree has no families: there is no tree to draw.");
 }
 
 QString TreesHaveHeads(const QString& setupName)
