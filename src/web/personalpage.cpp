@@ -3,6 +3,7 @@
 #include "web/personalpage.h"
 
 #include "web/ancestorchain.h"
+#include "web/celltexts.h"
 #include "web/contactlinks.h"
 #include "web/escape.h"
 #include "web/templates.h"
@@ -18,45 +19,6 @@ constexpr std::string_view rule = "<HR COLOR=\"BLACK\">";
 constexpr std::string_view nothing = "&nbsp;";
 constexpr std::string_view unknownCell = "&lt;Unknown&gt;";
 constexpr std::string_view borderedTable = "<TABLE WIDTH=\"100%\" BORDER=\"1\" CELLPADDING = \"2\"  CELLSPACING=\"0\">";
-
-/// A text as a cell shows it: its lines under each other.
-std::string Lines(std::string_view utf8)
-{
-    std::string cell;
-    while (true) {
-        const std::size_t end = std::min(utf8.find('\n'), utf8.size());
-        AppendText(cell, utf8.substr(0, end));
-        if (end == utf8.size()) {
-            return cell;
-        }
-        cell.append("<BR>");
-        utf8.remove_prefix(end + 1);
-    }
-}
-
-/// Dates are nearly always ASCII, for which the bytes are the characters.
-void AppendCapitalized(std::string& text, std::string_view word)
-{
-    constexpr unsigned char endOfAscii = 0x80;
-    if (std::all_of(word.begin(), word.end(),
-                    [](char byte) { return static_cast<unsigned char>(byte) < endOfAscii; })) {
-        for (std::size_t position = 0; position < word.size(); ++position) {
-            const QChar character = QChar::fromLatin1(word[position]);
-            text.push_back((position == 0 ? character.toUpper() : character.toLower()).toLatin1());
-        }
-        return;
-    }
-    const QString letters = QString::fromUtf8(word.data(), static_cast<qsizetype>(word.size()));
-    const qsizetype first = letters.front().isHighSurrogate() ? 2 : 1;
-    text.append((letters.left(first).toUpper() + letters.mid(first).toLower()).toStdString());
-}
-
-std::string ProperDate(std::string_view date)
-{
-    std::string cell;
-    AppendText(cell, ProperCase(date));
-    return cell;
-}
 
 class PersonalPage
 {
@@ -180,8 +142,8 @@ private:
                            "\t<TH>Place/Description</TH>");
                 open = true;
             }
-            writeRow(item, date.empty() ? std::string(nothing) : ProperDate(date),
-                     place.empty() ? std::string(nothing) : Lines(place));
+            writeRow(item, date.empty() ? std::string(nothing) : DateCell(date),
+                     place.empty() ? std::string(nothing) : TextCell(place));
         }
         if (open) {
             line("</TABLE>");
@@ -191,7 +153,7 @@ private:
     void writeRow(const PublishedItem& item, const std::string& date, const std::string& place)
     {
         line("<TR>");
-        cell("TD", Lines(item.name));
+        cell("TD", TextCell(item.name));
         cell("TD", date);
         cell("TD", place);
         line("</TR>");
@@ -224,7 +186,7 @@ private:
         }
         const bool hidden = (parent != nowhere && !m_run.mayBeNamed(parent)) || isPrivateRelation(relation);
         const auto value = m_run.texts.childInFamily(m_run.tree.parentFamily(m_person), m_person, relation);
-        cell("TD", hidden || value.value_or("").empty() ? std::string(nothing) : Lines(*value));
+        cell("TD", hidden || value.value_or("").empty() ? std::string(nothing) : TextCell(*value));
         line("</TR>");
     }
 
@@ -286,10 +248,10 @@ private:
                 open = true;
             }
             if (kind == ItemKind::Event) {
-                writeRow(item, value.empty() ? std::string(nothing) : ProperDate(value),
-                         place.empty() ? std::string(nothing) : Lines(place));
+                writeRow(item, value.empty() ? std::string(nothing) : DateCell(value),
+                         place.empty() ? std::string(nothing) : TextCell(place));
             } else {
-                writeRow(item, std::string(nothing), Lines(value));
+                writeRow(item, std::string(nothing), TextCell(value));
             }
         }
         if (open) {
@@ -337,7 +299,7 @@ private:
     {
         const auto birth = m_run.texts.individual(child, individualcolumn::birthDate).value_or("");
         const bool shown = !birth.empty() && !m_run.privacy.isProtected(child);
-        cell("TD", shown ? "Born:" + ProperDate(birth) : std::string(nothing));
+        cell("TD", shown ? "Born:" + DateCell(birth) : std::string(nothing));
     }
 
     void writeContact()
@@ -394,20 +356,6 @@ void WritePersonalPage(const SiteRun& run, const std::string& top, PageFile& fil
     file.bytes().append(top);
     PersonalPage(run, file, person).write();
     file.end();
-}
-
-std::string ProperCase(std::string_view utf8)
-{
-    std::string result;
-    while (true) {
-        const std::size_t end = std::min(utf8.find(' '), utf8.size());
-        result.push_back(' ');
-        AppendCapitalized(result, utf8.substr(0, end));
-        if (end == utf8.size()) {
-            return result;
-        }
-        utf8.remove_prefix(end + 1);
-    }
 }
 
 } // namespace stemwright

@@ -16,8 +16,4 @@ std::string PersonalPageTop(const ApplicationFolder& application);
 /// Writes the personal page of a person who is on the site. Throws Error when it cannot be written.
 void WritePersonalPage(const SiteRun& run, const std::string& top, PageFile& file, TreePosition person);
 
-/// The words of a UTF-8 text (between single blanks), each after one blank, with its first character in upper case and
-/// the others in lower case; the text begins with a blank: " 12 Jan 1900".
-std::string ProperCase(std::string_view utf8);
-
 } // namespace stemwright

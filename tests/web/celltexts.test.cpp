@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/personalpage.h"
+#include "web/celltexts.h"
 
 #include <gtest/gtest.h>
 
 namespace stemwright::test
 {
 
-TEST(PersonalPage, ProperCase)
+TEST(CellTexts, ProperCase)
 {
     for (const auto& [text, expected] :
          std::vector<std::pair<const char*, const char*>>{{"12 JAN 1900", " 12 Jan 1900"},
@@ -16,6 +16,11 @@ TEST(PersonalPage, ProperCase)
                                                           {"", " "}}) {
         EXPECT_EQ(ProperCase(text), expected);
     }
+}
+
+TEST(CellTexts, LinesStandUnderEachOther)
+{
+    EXPECT_EQ(TextCell("Leeds\r\n<York>\n"), "Leeds<BR>&lt;York&gt;<BR>");
 }
 
 } // namespace stemwright::test
