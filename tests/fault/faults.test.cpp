@@ -91,6 +91,8 @@ TEST_F(FaultsTest, AFullDiskLeavesTheOldTree)
 
 TEST_F(FaultsTest, AFullDiskLeavesNoHalfFiles)
 {
+    const QString copy = world.path(QStringLiteral("copy.kvf"));
+    ASSERT_EQ(world.run({QStringLiteral("save-as"), file, copy}).status, 0);
     const QStringList atFirst = names();
     for (const qint64 kilobytes : {0, 10, 60}) {
         SCOPED_TRACE(kilobytes);
@@ -98,8 +100,9 @@ TEST_F(FaultsTest, AFullDiskLeavesNoHalfFiles)
                                            {QStringLiteral("new"), world.path(QStringLiteral("fresh.kvf"))}),
                            QStringLiteral("full"));
         expectCleanFailure(runOnFaultyDisk(QStringLiteral("full"), world.path({}), kilobytes * 1024,
-                                           {QStringLiteral("save-as"), file, world.path(QStringLiteral("copy.kvf"))}),
+                                           {QStringLiteral("--yes"), QStringLiteral("save-as"), file, copy}),
                            QStringLiteral("full"));
+        EXPECT_EQ(Fingerprint(copy), before) << "the older copy stays";
         EXPECT_EQ(names(), atFirst);
     }
 }

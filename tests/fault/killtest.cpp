@@ -21,6 +21,7 @@
 #include <csignal>
 #include <iostream>
 #include <random>
+#include <stdexcept>
 #include <thread>
 
 using namespace stemwright;
@@ -37,8 +38,8 @@ struct Options {
 };
 
 /// Something that was left behind as it must not be.
-struct Wrong {
-    QString what;
+struct Wrong : std::runtime_error {
+    explicit Wrong(const QString& what) : std::runtime_error(what.toStdString()) {}
 };
 
 QByteArray Tree(std::uint32_t individuals)
@@ -77,58 +78,57 @@ QByteArray SiteSum(const QString& folder)
 class KillTest
 {
 public:
-    explicit KillTest(const Options& options)
-        : m_options(options), m_random(options.seed), m_file(m_world.path(QStringLiteral("work.kvf"))),
-          m_site(m_world.path(QStringLiteral("site")))
-    {
-    }
+    explicit KillTest(const Options& options) : m_options(options), m_random(options.seed) {}
 
     void killImports();
     void killPublications();
 
 private:
-    void run(const QStringList& arguments) const;
-    void makeBase(std::uint32_t individuals);
-    double secondsOf(const QStringList& arguments) const;
+    void run(const QStringList& arguments) const
+    {
+        const Outcome outcome = m_world.run(arguments);
+        if (outcome.status != 0) {
+            throw Wrong{QStringLiteral("%1: %2").arg(arguments.join(u' '), outcome.errors)};
+        }
+    }
+
+    void makeBase(std::uint32_t individuals)
+    {
+        const QString tree = m_world.write(QStringLiteral("old.ged"), Tree(individuals));
+        run({QStringLiteral("new"), m_base});
+        run({QStringLiteral("--yes"), QStringLiteral("import"), m_base, tree});
+    }
+
+    double secondsOf(const QStringList& arguments) const
+    {
+        QElapsedTimer timer;
+        timer.start();
+        run(arguments);
+        return static_cast<double>(timer.nsecsElapsed()) / 1e9;
+    }
+
     /// Starts the command and sends the signal within `seconds`, spread evenly; whether it was still running. When it
     /// was not, the time is shortened, since the machine may have been slower when it was measured.
     bool interrupt(const QStringList& arguments, double& seconds);
+
     /// The fingerprint of a file that has to pass the check.
-    QString soundFile(const QString& path) const;
+    QString soundFile(const QString& path) const
+    {
+        run({QStringLiteral("check"), path});
+        return Fingerprint(path);
+    }
+
     void report(int inTime, const QString& more) const;
 
     const Options& m_options;
     std::mt19937 m_random;
     CliWorld m_world;
-    const QString m_file;
-    const QString m_site;
+    const QString m_file = m_world.path(QStringLiteral("work.kvf"));
+    const QString m_site = m_world.path(QStringLiteral("site"));
     const QString m_base = m_world.path(QStringLiteral("base.kvf"));
     const QStringList m_publish = {QStringLiteral("--yes"), QStringLiteral("publish"), m_file,
                                    QStringLiteral("--output"), m_site};
 };
-
-void KillTest::run(const QStringList& arguments) const
-{
-    const Outcome outcome = m_world.run(arguments);
-    if (outcome.status != 0) {
-        throw Wrong{QStringLiteral("%1: %2").arg(arguments.join(u' '), outcome.errors)};
-    }
-}
-
-void KillTest::makeBase(std::uint32_t individuals)
-{
-    const QString tree = m_world.write(QStringLiteral("old.ged"), Tree(individuals));
-    run({QStringLiteral("new"), m_base});
-    run({QStringLiteral("--yes"), QStringLiteral("import"), m_base, tree});
-}
-
-double KillTest::secondsOf(const QStringList& arguments) const
-{
-    QElapsedTimer timer;
-    timer.start();
-    run(arguments);
-    return static_cast<double>(timer.nsecsElapsed()) / 1e9;
-}
 
 bool KillTest::interrupt(const QStringList& arguments, double& seconds)
 {
@@ -148,12 +148,6 @@ bool KillTest::interrupt(const QStringList& arguments, double& seconds)
     const bool inTime = program.exitStatus() == QProcess::CrashExit;
     seconds *= inTime ? 1.0 : 0.9;
     return inTime;
-}
-
-QString KillTest::soundFile(const QString& path) const
-{
-    run({QStringLiteral("check"), path});
-    return Fingerprint(path);
 }
 
 /// A run in which hardly any signal came in time has shown nothing.
@@ -232,9 +226,6 @@ int main(int argc, char** argv)
     try {
         KillTest test(options);
         options.work == "import" ? test.killImports() : test.killPublications();
-    } catch (const Wrong& wrong) {
-        std::cerr << "killtest: " << wrong.what.toStdString() << std::endl;
-        return 1;
     } catch (const std::exception& exception) {
         std::cerr << "killtest: " << exception.what() << std::endl;
         return 1;

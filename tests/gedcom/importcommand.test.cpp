@@ -28,10 +28,9 @@ protected:
     /// The GenInfo row and the names of the individuals.
     QString state()
     {
-        Statement row = file.connection().prepare(
-            QStringLiteral("SELECT GEDCOMFile, ImportDate, (SELECT group_concat(GivenName) FROM Indi) FROM GenInfo"));
-        row.step();
-        return QStringList{QFileInfo(row.text(0)).fileName(), row.text(1), row.text(2)}.join(u'|');
+        const QString state = QStringLiteral(
+            "SELECT GEDCOMFile || '|' || ImportDate || '|' || (SELECT group_concat(GivenName) FROM Indi) FROM GenInfo");
+        return Column(file.connection(), state).value(0).section(u'/', -1);
     }
 
     bool hasBackup() const { return QFileInfo::exists(BackupPath(file.path())); }
@@ -103,13 +102,6 @@ TEST_F(ImportCommand, ADuplicateKeepsWhatWasReadAndTheNote)
     EXPECT_FALSE(import(QStringLiteral("a.ged"), "1 NAME Ann\n0 @I1@ INDI\n1 NAME Bea\n"));
     EXPECT_EQ(report.outcome, ImportOutcome::StoppedAtDuplicate);
     EXPECT_EQ(state(), QStringLiteral("a.ged|2026-03-12T12:00:00|Ann"));
-}
-
-TEST_F(ImportCommand, AsksForAFileInTheFolderOfTheLastOne)
-{
-    world.settings.setValue(setting::gedcom, setting::gedcomPath, QStringLiteral("/trees"));
-    world.talk.expectInput(QStringLiteral("Select GEDCOM file"), QStringLiteral("/trees/x.ged"));
-    EXPECT_EQ(ChooseGedcomFile(world.environment), QStringLiteral("/trees/x.ged"));
 }
 
 } // namespace stemwright::test

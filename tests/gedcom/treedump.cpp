@@ -39,7 +39,7 @@ ImportedTree::ImportedTree(QByteArray gedcom)
 {
     QBuffer input(&gedcom);
     input.open(QIODevice::ReadOnly);
-    duplicate = RebuildTree(input, connection, progress, report);
+    duplicate = RebuildTree(input, connection, *talk.progress({}, {}), report);
     report.outcome = duplicate ? ImportOutcome::StoppedAtDuplicate : ImportOutcome::Completed;
 }
 

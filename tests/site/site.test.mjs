@@ -128,12 +128,6 @@ for (const kind of Object.keys(kinds)) {
         }
         assert.deepEqual(page.complaints, []);
     });
-
-    test(`on a phone the pages have the screen: ${kind}`, async (t) => {
-        const page = await visit(t, kind, { screen: screens.phone });
-        const box = await page.locator("frame[name=frmCenter]").boundingBox();
-        assert.ok(box.height >= 0.75 * 844 && box.width >= 0.9 * 390, `${box.width} x ${box.height}`);
-    });
 }
 
 test("the path of pages shows, page by page, and leads back", async (t) => {

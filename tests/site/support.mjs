@@ -45,7 +45,3 @@ export async function showInCentre(page, file) {
     await centre.goto(new URL(file, page.url()).href);
     return centre;
 }
-
-export function screenshot(page, file) {
-    return page.screenshot({ path: file });
-}

@@ -32,6 +32,21 @@ QString TestData(const QString& name)
     return QStringLiteral(STEMWRIGHT_TEST_DATA "/") + name;
 }
 
+QString TestDataText(const QString& name)
+{
+    return QString::fromUtf8(ReadWholeFile(TestData(name)));
+}
+
+QStringList Column(Connection& connection, const QString& sql)
+{
+    Statement statement = connection.prepare(sql);
+    QStringList values;
+    while (statement.step()) {
+        values << (statement.isNull(0) ? QStringLiteral("-") : statement.text(0));
+    }
+    return values;
+}
+
 } // namespace stemwright::test
 
 void PrintTo(const QString& text, std::ostream* stream)

@@ -6,6 +6,7 @@
 #include "store/file/familyfile.h"
 #include "support/scriptedtalk.h"
 
+#include <QtCore/QStringList>
 #include <QtCore/QTemporaryDir>
 
 #include <ostream>
@@ -39,8 +40,12 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// The path of a file below tests/data.
+/// The path of a file below tests/data, and its content as a text.
 QString TestData(const QString& name);
+QString TestDataText(const QString& name);
+
+/// The first column of a query's rows, "-" for Null.
+QStringList Column(Connection& connection, const QString& sql);
 
 } // namespace stemwright::test
 

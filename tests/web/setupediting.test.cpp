@@ -17,17 +17,19 @@ namespace
 
 const QString setupName = QStringLiteral("Default");
 
+class SetupEditingTest : public testing::Test
+{
+protected:
+    SetupWorld world;
+    SetupEditing editing{world.connection(), world.own, setupName};
+    TreeEditing& trees = editing.trees();
+};
+
 } // namespace
 
-TEST(SetupEditing, TypedValuesAreStoredAsTheirColumnsHoldThem)
+TEST_F(SetupEditingTest, TypedValuesAreStoredAsTheirColumnsHoldThem)
 {
-    struct Case {
-        const char* column;
-        const char* typed;
-        const char* stored;
-    };
-
-    const std::vector<Case> cases = {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"sitetitle", "Ann's \"<b>\" site", "Ann's \"<b>\" site"},
         {"TitleStory", "", ""},
         {"Standalone", "no", "0"},
@@ -47,58 +49,48 @@ TEST(SetupEditing, TypedValuesAreStoredAsTheirColumnsHoldThem)
         {"WebPageFolder", "D:\\Site", "D:\\Site"},
         {"EmblemFiletype", "jpg", "jpg"},
     };
-    SetupWorld world;
-    SetupEditing editing(world.connection(), world.own, setupName);
-    for (const Case& accepted : cases) {
-        SCOPED_TRACE(accepted.column);
-        const QString column = QString::fromUtf8(accepted.column);
-        editing.set(column, QString::fromUtf8(accepted.typed));
-        EXPECT_EQ(world.column(QStringLiteral("SELECT %1 FROM WebSiteInfo").arg(column)),
-                  QStringList{QString::fromUtf8(accepted.stored)});
-        const SetupColumn& described = SetupColumnNamed(column);
-        editing.set(column, editing.settingText(described));
-        EXPECT_EQ(world.column(QStringLiteral("SELECT %1 FROM WebSiteInfo").arg(column)),
-                  QStringList{QString::fromUtf8(accepted.stored)});
+    for (const auto& [name, typed, stored] : cases) {
+        SCOPED_TRACE(name);
+        const QString column = QString::fromUtf8(name);
+        editing.set(column, QString::fromUtf8(typed));
+        for (const char* when : {"as typed", "as shown"}) {
+            EXPECT_EQ(world.column(QStringLiteral("SELECT %1 FROM WebSiteInfo").arg(column)),
+                      QStringList{QString::fromUtf8(stored)})
+                << when;
+            editing.set(column, editing.settingText(SetupColumnNamed(column)));
+        }
     }
 }
 
-TEST(SetupEditing, ValuesThatAColumnCannotHoldAreRefused)
+TEST_F(SetupEditingTest, ValuesThatAColumnCannotHoldAreRefused)
 {
-    const std::vector<std::pair<const char*, QString>> cases = {{"PersPages", QStringLiteral("2")},
-                                                                {"PageStyle", QStringLiteral("2")},
-                                                                {"CellFg", QStringLiteral("#fff")},
-                                                                {"CellFg", QStringLiteral("16777216")},
-                                                                {"CellFg", QStringLiteral("red")},
-                                                                {"MaxTotalGens", QStringLiteral("32768")},
-                                                                {"MaxTotalGens", QStringLiteral("0")},
-                                                                {"MaxPrivacyAge", QStringLiteral("-1")},
-                                                                {"MaxGenOnPage", QString()},
-                                                                {"WebPageFolder", QStringLiteral(" ")},
-                                                                {"SiteTitle", QString(256, u'x')},
-                                                                {"EmblemFiletype", QStringLiteral("../gif")},
-                                                                {"EmblemPicture", QStringLiteral("no.gif")},
-                                                                {"SetupName", QStringLiteral("Other")}};
-    SetupWorld world;
-    SetupEditing editing(world.connection(), world.own, setupName);
+    const std::pair<const char*, QStringList> cases[] = {
+        {"PersPages", {QStringLiteral("2")}},
+        {"PageStyle", {QStringLiteral("2")}},
+        {"CellFg", {QStringLiteral("#fff"), QStringLiteral("16777216"), QStringLiteral("red")}},
+        {"MaxTotalGens", {QStringLiteral("32768"), QStringLiteral("0")}},
+        {"MaxPrivacyAge", {QStringLiteral("-1")}},
+        {"MaxGenOnPage", {QString()}},
+        {"WebPageFolder", {QStringLiteral(" ")}},
+        {"SiteTitle", {QString(256, u'x')}},
+        {"EmblemFiletype", {QStringLiteral("../gif")}},
+        {"SetupName", {QStringLiteral("Other")}}};
     const QString all = QStringLiteral("SELECT PersPages || PageStyle || CellFg || MaxTotalGens || MaxPrivacyAge ||"
                                        " MaxGenOnPage || WebPageFolder || SiteTitle || EmblemFiletype || SetupName ||"
                                        " EmblemPicture FROM WebSiteInfo");
     const QStringList before = world.column(all);
-    for (const auto& [column, value] : cases) {
+    for (const auto& [column, values] : cases) {
         const QString name = QString::fromLatin1(column);
-        EXPECT_TRUE(ErrorOf([&] {
-                        editing.set(name, value);
-                    }).contains(name == QStringLiteral("EmblemPicture") ? QStringLiteral("no.gif") : name))
-            << column;
+        for (const QString& value : values) {
+            EXPECT_TRUE(ErrorOf([&] { editing.set(name, value); }).contains(name)) << column << value.toStdString();
+        }
     }
     EXPECT_EQ(world.column(all), before);
     EXPECT_TRUE(ErrorOf([&] { editing.set(QStringLiteral("Colour"), {}); }).contains(QStringLiteral("CellFg, CellBg")));
 }
 
-TEST(SetupEditing, EmblemIsReadFromAnImageFileOnly)
+TEST_F(SetupEditingTest, EmblemIsReadFromAnImageFileOnly)
 {
-    SetupWorld world;
-    SetupEditing editing(world.connection(), world.own, setupName);
     const QString emblem = QStringLiteral("SELECT EmblemPicture || '.' || EmblemFiletype FROM WebSiteInfo");
     const QString column = QStringLiteral("EmblemPicture");
     editing.set(column, world.write(QStringLiteral("arms.GIF"), "GIF89a arms"));
@@ -107,6 +99,8 @@ TEST(SetupEditing, EmblemIsReadFromAnImageFileOnly)
     EXPECT_EQ(world.column(emblem), QStringList{QStringLiteral("GIF89a more.gif")});
     const QString letter = world.write(QStringLiteral("letter.gif"), "Dear Ann");
     EXPECT_TRUE(ErrorOf([&] { editing.set(column, letter); }).contains(QStringLiteral("is not an image")));
+    const QString missing = QStringLiteral("no.gif");
+    EXPECT_TRUE(ErrorOf([&] { editing.set(column, missing); }).contains(missing));
     EXPECT_EQ(world.column(emblem), QStringList{QStringLiteral("GIF89a more.gif")});
     editing.set(column, QString());
     EXPECT_EQ(world.column(emblem), QStringList{QStringLiteral("-")});
@@ -134,15 +128,9 @@ TEST(SetupEditing, OnlySavedChangesLast)
     EXPECT_FALSE(ErrorOf([&] { SetupEditing(world.connection(), world.own, QStringLiteral("x")); }).isEmpty());
 }
 
-TEST(SetupChecks, EachFailureHasItsPageAndItsMessage)
+TEST_F(SetupEditingTest, EachFailureHasItsPageAndItsMessage)
 {
-    struct Case {
-        const char* spoil;
-        WizardPage page;
-        const char* text;
-    };
-
-    const std::vector<Case> cases = {
+    const std::tuple<const char*, WizardPage, const char*> cases[] = {
         {"UPDATE WebSiteInfo SET HomePageName = ''", WizardPage::Step1,
          "The homepage filename cannot be empty. Please press OK and supply a non-empty filename."},
         {"DELETE FROM TreeHeads", WizardPage::DisplayOptions,
@@ -154,29 +142,24 @@ TEST(SetupChecks, EachFailureHasItsPageAndItsMessage)
          "The maximum number of generations on a page cannot be less than 2 (we recommend 4 or 5). Please press OK, go "
          "to General tab and select a new value."},
     };
-    SetupWorld world;
     world.execute("UPDATE TreeHeads SET TreeHeadId = 1, TreeHeadName = 'Windsor'");
     world.execute("UPDATE WebSiteInfo SET MaxGenOnPage = 2");
-    SetupEditing editing(world.connection(), world.own, setupName);
     EXPECT_FALSE(CheckSetup(editing.setup()));
-    for (const Case& failing : cases) {
+    for (const auto& [spoil, page, text] : cases) {
         const Transaction undone(world.connection());
-        world.execute(failing.spoil);
+        world.execute(spoil);
         const std::optional<Message> failure = CheckSetup(editing.setup());
-        ASSERT_TRUE(failure) << failing.text;
-        EXPECT_EQ(failure->text, QString::fromLatin1(failing.text));
+        ASSERT_TRUE(failure) << text;
+        EXPECT_EQ(failure->text, QString::fromLatin1(text));
         EXPECT_EQ(failure->icon, Icon::Warning);
         world.talk.expect(failure->title.isEmpty() ? failure->text : failure->title);
-        EXPECT_FALSE(editing.leavePage(failing.page));
+        EXPECT_FALSE(editing.leavePage(page));
         EXPECT_TRUE(editing.leavePage(WizardPage::FirstPage));
     }
 }
 
-TEST(TreeEditing, FirstTreeFillsTheHeadlessOneAndLaterTreesAreAdded)
+TEST_F(SetupEditingTest, FirstTreeFillsTheHeadlessOneAndLaterTreesAreAdded)
 {
-    SetupWorld world;
-    SetupEditing editing(world.connection(), world.own, setupName);
-    TreeEditing& trees = editing.trees();
     trees.addOrFillFirst();
     world.talk.expect(QStringLiteral("The index of names does not exist. It will be generated"));
     EXPECT_FALSE(trees.setHead(1));
@@ -201,16 +184,11 @@ TEST(TreeEditing, FirstTreeFillsTheHeadlessOneAndLaterTreesAreAdded)
                            QStringLiteral("2|O'Hara,   |CollapsiTree|2")}));
 }
 
-TEST(TreeEditing, ApplyWithoutAHeadTellsAndStaysWithTheTree)
+TEST_F(SetupEditingTest, ApplyWithoutAHeadTellsAndStaysWithTheTree)
 {
-    SetupWorld world;
-    SetupEditing editing(world.connection(), world.own, setupName);
-    TreeEditing& trees = editing.trees();
     trees.add();
     trees.setIcon(2);
-    for (int times = 0; times < 2; ++times) {
-        world.talk.expect(QStringLiteral("No Tree Head"));
-    }
+    world.talk.expect(QStringLiteral("No Tree Head")).expect(QStringLiteral("No Tree Head"));
     EXPECT_FALSE(trees.apply());
     EXPECT_TRUE(trees.edited());
     EXPECT_FALSE(editing.leavePage(WizardPage::DisplayOptions));
@@ -218,11 +196,8 @@ TEST(TreeEditing, ApplyWithoutAHeadTellsAndStaysWithTheTree)
     EXPECT_EQ(trees.definitions().back().display, QStringLiteral("Outline"));
 }
 
-TEST(TreeEditing, TheLastDefinitionCannotBeDeleted)
+TEST_F(SetupEditingTest, TheLastDefinitionCannotBeDeleted)
 {
-    SetupWorld world;
-    SetupEditing editing(world.connection(), world.own, setupName);
-    TreeEditing& trees = editing.trees();
     trees.add();
     const int first = trees.definitions().front().number;
     const int second = trees.definitions().back().number;
@@ -236,11 +211,9 @@ TEST(TreeEditing, TheLastDefinitionCannotBeDeleted)
     EXPECT_EQ(trees.definitions().size(), 1U);
 }
 
-TEST(SetupViewing, FindsTheFirstPageOfFinishedPages)
+TEST_F(SetupEditingTest, FindsTheFirstPageOfFinishedPages)
 {
-    SetupWorld world;
     EXPECT_EQ(SetupsToView(world.connection(), world.talk), QStringList{setupName});
-    SetupEditing editing(world.connection(), world.own, setupName);
     editing.set(QStringLiteral("WebPageFolder"), world.path(QStringLiteral("site")));
     world.talk.expect(QStringLiteral("Your web pages are not yet created.  To create them, use"));
     EXPECT_FALSE(FindPagesToView(world.connection(), setupName, world.talk));

@@ -25,12 +25,17 @@ QStringList Everything(SetupWorld& world)
            world.column(Names(QStringLiteral("TreeHeads")));
 }
 
+class SetupManagerTest : public testing::Test
+{
+protected:
+    SetupWorld world;
+    SetupManager manager{world.connection(), world.own};
+};
+
 } // namespace
 
-TEST(SetupManager, NewSetupHasTheDefaultsUnderItsName)
+TEST_F(SetupManagerTest, NewSetupHasTheDefaultsUnderItsName)
 {
-    SetupWorld world;
-    SetupManager manager(world.connection(), world.own);
     EXPECT_EQ(manager.selected(), QStringLiteral("Default"));
     ASSERT_TRUE(manager.create(QStringLiteral(" Anne's line ")));
     EXPECT_EQ(manager.selected(), QStringLiteral("Anne's line"));
@@ -53,37 +58,26 @@ TEST(SetupManager, NewSetupHasTheDefaultsUnderItsName)
     EXPECT_EQ(manager.wizardMode(), WizardMode::Edit);
 }
 
-TEST(SetupManager, UnusableNamesAreRefusedAndChangeNothing)
+TEST_F(SetupManagerTest, UnusableNamesAreRefusedAndChangeNothing)
 {
-    struct Case {
-        QString name;
-        QString title;
-    };
-
-    const QString other = QStringLiteral("Web Site Setup");
-    const std::vector<Case> cases = {{QString(), QStringLiteral("No Setup Name")},
-                                     {QStringLiteral("  "), QStringLiteral("No Setup Name")},
-                                     {QStringLiteral("DEFAULT"), QStringLiteral("Duplicate setup name")},
-                                     {QStringLiteral("Default  "), QStringLiteral("Duplicate setup name")},
-                                     {QStringLiteral("müller"), QStringLiteral("Duplicate setup name")},
-                                     {QStringLiteral(".."), other},
-                                     {QStringLiteral("a/../b"), other},
-                                     {QStringLiteral("a\\"), other},
-                                     {QStringLiteral("a\nb"), other},
-                                     {QString(255, u'x'), other}};
-    SetupWorld world;
-    SetupManager manager(world.connection(), world.own);
+    const QString tooLong(255, u'x');
+    const std::pair<const char*, QStringList> cases[] = {
+        {"No Setup Name", {QString(), QStringLiteral("  ")}},
+        {"Duplicate setup name", {QStringLiteral("DEFAULT"), QStringLiteral("Default  "), QStringLiteral("müller")}},
+        {"Web Site Setup",
+         {QStringLiteral(".."), QStringLiteral("a/../b"), QStringLiteral("a\\"), QStringLiteral("a\nb"), tooLong}}};
     ASSERT_TRUE(manager.create(QStringLiteral("MÜLLER")));
     const QStringList before = Everything(world);
-    for (const Case& refused : cases) {
-        SCOPED_TRACE(refused.name.toStdString());
-        for (int times = 0; times < 3; ++times) {
-            world.talk.expect(refused.title);
+    for (const auto& [title, names] : cases) {
+        for (const QString& name : names) {
+            SCOPED_TRACE(name.toStdString());
+            const QString expected = QString::fromLatin1(title);
+            world.talk.expect(expected).expect(expected).expect(expected);
+            EXPECT_FALSE(manager.create(name));
+            EXPECT_FALSE(manager.clone(QStringLiteral("Default"), name));
+            EXPECT_FALSE(manager.rename(QStringLiteral("Default"), name));
+            EXPECT_EQ(Everything(world), before);
         }
-        EXPECT_FALSE(manager.create(refused.name));
-        EXPECT_FALSE(manager.clone(QStringLiteral("Default"), refused.name));
-        EXPECT_FALSE(manager.rename(QStringLiteral("Default"), refused.name));
-        EXPECT_EQ(Everything(world), before);
     }
     EXPECT_EQ(world.talk.shown()[6].text,
               QStringLiteral("You have already a setup named \"DEFAULT\".\n\nPlease select another name."));
@@ -91,29 +85,21 @@ TEST(SetupManager, UnusableNamesAreRefusedAndChangeNothing)
 
 TEST(SetupManager, FolderOfCloneStandsBesideItsSource)
 {
-    struct Case {
-        QString source;
-        QString expected;
-    };
-
-    const std::vector<Case> cases = {
-        {QStringLiteral("C:\\App\\fampages"), QStringLiteral("C:\\App\\fampages\\New")},
-        {QStringLiteral("C:\\App\\fampages\\Old"), QStringLiteral("C:\\App\\fampages\\New")},
-        {QStringLiteral("D:\\Site"), QStringLiteral("D:\\New")},
-        {QStringLiteral("D:\\"), QStringLiteral("D:\\New")},
-        {QStringLiteral("/srv/ann/fampages"), QStringLiteral("/srv/ann/fampages/New")},
-        {QStringLiteral("/srv/ann/fampages/"), QStringLiteral("/srv/ann/fampages/New")},
-        {QStringLiteral("/srv/ann/fampages/Old"), QStringLiteral("/srv/ann/fampages/New")},
-        {QStringLiteral("/Site"), QStringLiteral("/New")},
-        {QStringLiteral("/"), QStringLiteral("/New")}};
-    for (const Case& clone : cases) {
-        EXPECT_EQ(FolderOfClone(clone.source, QStringLiteral("New")), clone.expected);
+    const std::pair<const char*, const char*> cases[] = {{"C:\\App\\fampages", "C:\\App\\fampages\\New"},
+                                                         {"C:\\App\\fampages\\Old", "C:\\App\\fampages\\New"},
+                                                         {"D:\\Site", "D:\\New"},
+                                                         {"D:\\", "D:\\New"},
+                                                         {"/srv/ann/fampages/", "/srv/ann/fampages/New"},
+                                                         {"/srv/ann/fampages/Old", "/srv/ann/fampages/New"},
+                                                         {"/Site", "/New"},
+                                                         {"/", "/New"}};
+    for (const auto& [source, expected] : cases) {
+        EXPECT_EQ(FolderOfClone(QString::fromLatin1(source), QStringLiteral("New")), QString::fromLatin1(expected));
     }
 }
 
-TEST(SetupManager, CloneCopiesEverythingButNameFolderAndTreeNumber)
+TEST_F(SetupManagerTest, CloneCopiesEverythingButNameFolderAndTreeNumber)
 {
-    SetupWorld world;
     world.addIndividuals();
     world.execute("ALTER TABLE WebSiteInfo ADD COLUMN Later VARCHAR(255)");
     world.execute(
@@ -139,10 +125,8 @@ TEST(SetupManager, CloneCopiesEverythingButNameFolderAndTreeNumber)
     EXPECT_FALSE(manager.clone(QStringLiteral("Nobody"), QStringLiteral("New")));
 }
 
-TEST(SetupManager, RenameLeavesABlankAfterTheNameOfItemsAndTrees)
+TEST_F(SetupManagerTest, RenameLeavesABlankAfterTheNameOfItemsAndTrees)
 {
-    SetupWorld world;
-    SetupManager manager(world.connection(), world.own);
     world.talk.expectInput(QStringLiteral("Renaming Setup"), std::nullopt);
     EXPECT_FALSE(manager.rename(QStringLiteral("Default")));
     world.talk.expectInput(QStringLiteral("Renaming Setup"), QStringLiteral("'; DROP TABLE Indi; --"));
@@ -160,10 +144,8 @@ TEST(SetupManager, RenameLeavesABlankAfterTheNameOfItemsAndTrees)
     EXPECT_EQ(setup->trees.size(), 1U);
 }
 
-TEST(SetupManager, RowsOfARenamedSetupFollowItsNextNameAndItsEnd)
+TEST_F(SetupManagerTest, RowsOfARenamedSetupFollowItsNextNameAndItsEnd)
 {
-    SetupWorld world;
-    SetupManager manager(world.connection(), world.own);
     ASSERT_TRUE(manager.create(QStringLiteral("Other")));
     ASSERT_TRUE(manager.rename(QStringLiteral("Default"), QStringLiteral("Second")));
     ASSERT_TRUE(manager.rename(QStringLiteral("second"), QStringLiteral("Third")));
@@ -174,10 +156,8 @@ TEST(SetupManager, RowsOfARenamedSetupFollowItsNextNameAndItsEnd)
     EXPECT_EQ(Everything(world), QStringList(7, QStringLiteral("'Other'")));
 }
 
-TEST(SetupManager, DeleteAsksAndSelectsTheNextSetup)
+TEST_F(SetupManagerTest, DeleteAsksAndSelectsTheNextSetup)
 {
-    SetupWorld world;
-    SetupManager manager(world.connection(), world.own);
     ASSERT_TRUE(manager.create(QStringLiteral("A")));
     ASSERT_TRUE(manager.create(QStringLiteral("Z's")));
     const QStringList before = Everything(world);

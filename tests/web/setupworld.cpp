@@ -18,16 +18,6 @@ SetupWorld::SetupWorld()
     CreateFamilyFile(file, path(QStringLiteral("Family.kvf")), own);
 }
 
-QStringList SetupWorld::column(const QString& sql)
-{
-    Statement statement = connection().prepare(sql);
-    QStringList values;
-    while (statement.step()) {
-        values << (statement.isNull(0) ? QStringLiteral("-") : statement.text(0));
-    }
-    return values;
-}
-
 void SetupWorld::addIndividuals()
 {
     execute("INSERT INTO Indi (Id, Surname, GivenName, Title, Suffix) VALUES (1, 'Windsor', 'Anne', 'Princess', 'II'),"

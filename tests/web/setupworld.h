@@ -4,8 +4,6 @@
 
 #include "support/testworld.h"
 
-#include <QtCore/QStringList>
-
 namespace stemwright::test
 {
 
@@ -17,8 +15,7 @@ public:
 
     Connection& connection() { return file.connection(); }
 
-    /// The first column of a query's rows, "-" for Null.
-    QStringList column(const QString& sql);
+    QStringList column(const QString& sql) { return Column(connection(), sql); }
 
     /// Runs a statement that changes the file as no procedure would.
     void execute(const char* sql) { connection().execute(QString::fromUtf8(sql)); }

@@ -4,6 +4,7 @@
 
 #include "base/error.h"
 #include "base/files.h"
+#include "support/childprocess.h"
 #include "support/testworld.h"
 
 #include <QtCore/QFile>
@@ -11,7 +12,6 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace stemwright::test
@@ -23,35 +23,14 @@ namespace
 /// What the engine says to another process that opens the file: 0, or its error code.
 int OpenedElsewhere(const QString& path)
 {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        int result = SQLITE_OK;
+    return RunInOwnProcess([&path] {
         try {
             const Connection connection(path, OpenMode::ReadWrite);
+            return SQLITE_OK;
         } catch (const SQLite::Exception& exception) {
-            result = exception.getErrorCode();
+            return exception.getErrorCode();
         }
-        ::_exit(result);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-/// Kills a process in the middle of a transaction that has written to the file already.
-void DieWhileWriting(const QString& path)
-{
-    const pid_t child = ::fork();
-    if (child == 0) {
-        Connection connection(path, OpenMode::ReadWrite);
-        connection.execute(QStringLiteral("PRAGMA cache_size=2"));
-        const Transaction transaction(connection);
-        connection.execute(QStringLiteral("UPDATE t SET a = 'new'"));
-        ::_exit(0);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    ASSERT_TRUE(WIFEXITED(status));
+    });
 }
 
 } // namespace
@@ -81,12 +60,19 @@ TEST(Connection, PlaysBackWhatAKilledProgramLeft)
         connection.execute(QStringLiteral("CREATE TABLE t (a); INSERT INTO t VALUES ('old');"
                                           "INSERT INTO t SELECT hex(zeroblob(2000)) FROM pragma_function_list"));
     }
-    DieWhileWriting(path);
+    const auto dieWhileWriting = [&path] {
+        Connection connection(path, OpenMode::ReadWrite);
+        connection.execute(QStringLiteral("PRAGMA cache_size=2"));
+        const Transaction transaction(connection);
+        connection.execute(QStringLiteral("UPDATE t SET a = 'new'"));
+        ::_exit(0);
+        return 0;
+    };
+    ASSERT_EQ(RunInOwnProcess(dieWhileWriting), 0);
     ASSERT_TRUE(QFile::exists(path + QStringLiteral("-journal")));
     Connection connection(path, OpenMode::ReadWrite);
-    Statement count = connection.prepare(QStringLiteral("SELECT count(*) FROM t WHERE a = 'new'"));
-    ASSERT_TRUE(count.step());
-    EXPECT_EQ(count.integer(0), 0);
+    EXPECT_EQ(Column(connection, QStringLiteral("SELECT count(*) FROM t WHERE a = 'new'")),
+              QStringList{QStringLiteral("0")});
 }
 
 TEST(Connection, TransactionsUndoWhatWasNotCommitted)

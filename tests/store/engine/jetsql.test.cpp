@@ -21,15 +21,14 @@ struct QueryCase {
     QStringList expected;
 };
 
-std::vector<QueryCase> ReadCases(const QString& path)
+std::vector<QueryCase> ReadCases()
 {
     std::vector<QueryCase> cases;
-    const QStringList lines = QString::fromUtf8(ReadWholeFile(path)).split(u'\n');
-    for (const QString& line : lines) {
+    for (const QString& line : TestDataText(QStringLiteral("store/queries.txt")).split(u'\n')) {
         if (line.isEmpty() || line.startsWith(u'#')) {
             continue;
         }
-        if (line.startsWith(u'=') || line.startsWith(u'!') || line.startsWith(u'*')) {
+        if (QStringLiteral("=!*").contains(line[0])) {
             cases.back().expected << line;
         } else {
             cases.push_back({line, {}});
@@ -75,14 +74,19 @@ QStringList Outcome(Connection& connection, const QueryCase& query)
     }
 }
 
-} // namespace
-
-TEST(JetSql, EveryQueryGivesItsRows)
+class JetSql : public testing::Test
 {
+protected:
     TestWorld world;
     Connection& connection = world.newFamilyFile().connection();
-    connection.execute(QString::fromUtf8(ReadWholeFile(TestData(QStringLiteral("store/queries.sql")))));
-    const std::vector<QueryCase> cases = ReadCases(TestData(QStringLiteral("store/queries.txt")));
+};
+
+} // namespace
+
+TEST_F(JetSql, EveryQueryGivesItsRows)
+{
+    connection.execute(TestDataText(QStringLiteral("store/queries.sql")));
+    const std::vector<QueryCase> cases = ReadCases();
     ASSERT_GT(cases.size(), 60U);
     for (const QueryCase& query : cases) {
         const QStringList outcome = Outcome(connection, query);
@@ -95,51 +99,39 @@ TEST(JetSql, EveryQueryGivesItsRows)
     }
 }
 
-TEST(JetSql, CriteriaFindTheirRows)
+TEST_F(JetSql, CriteriaFindTheirRows)
 {
-    TestWorld world;
-    Connection& connection = world.newFamilyFile().connection();
-    connection.execute(QString::fromUtf8(ReadWholeFile(TestData(QStringLiteral("store/queries.sql")))));
+    connection.execute(TestDataText(QStringLiteral("store/queries.sql")));
 
-    struct Case {
-        QString table;
-        QString criterion;
-        int found;
+    const std::tuple<QString, QString, const char*> cases[] = {
+        {QStringLiteral("SchemaIndi"), QStringLiteral("Tag = 'buri'"), "1"},
+        {QStringLiteral("SchemaIndi"), QStringLiteral("Label = 'O''Brien''s oath'"), "1"},
+        {QStringLiteral("SchemaFam"), QStringLiteral("Label = 'Partnership Ending Status'"), "1"},
+        {QStringLiteral("PicListQueries"), QStringLiteral("QueryName = 'ÉLAN'"), "1"},
+        {QStringLiteral("TreeHeads"), QStringLiteral("SetupName = 'Second'"), "1"},
+        {QStringLiteral("Indi2Page"), QStringLiteral("IndiId = 3"), "2"},
+        {QStringLiteral("Indi"), QStringLiteral("FAMC = 10"), "2"},
+        {QStringLiteral("Indi"), QStringLiteral("Surname Like 'Smith*'"), "2"},
+        {QStringLiteral("Indi"), QStringLiteral("Surname Like '*r'"), "2"},
+        {QStringLiteral("Indi"), QStringLiteral("Surname LIKE 'o''brien'"), "1"},
     };
-
-    const Case cases[] = {
-        {QStringLiteral("SchemaIndi"), QStringLiteral("Tag = 'buri'"), 1},
-        {QStringLiteral("SchemaIndi"), QStringLiteral("Label = 'O''Brien''s oath'"), 1},
-        {QStringLiteral("SchemaFam"), QStringLiteral("Label = 'Partnership Ending Status'"), 1},
-        {QStringLiteral("PicListQueries"), QStringLiteral("QueryName = 'ÉLAN'"), 1},
-        {QStringLiteral("TreeHeads"), QStringLiteral("SetupName = 'Second'"), 1},
-        {QStringLiteral("Indi2Page"), QStringLiteral("IndiId = 3"), 2},
-        {QStringLiteral("Indi"), QStringLiteral("FAMC = 10"), 2},
-        {QStringLiteral("Indi"), QStringLiteral("Surname Like 'Smith*'"), 2},
-        {QStringLiteral("Indi"), QStringLiteral("Surname Like '*r'"), 2},
-        {QStringLiteral("Indi"), QStringLiteral("Surname LIKE 'o''brien'"), 1},
-    };
-    for (const Case& each : cases) {
-        Statement count = connection.prepare(QStringLiteral("SELECT count(*) FROM %1 WHERE ").arg(each.table) +
-                                             TranslateJetCriterion(each.criterion, each.table));
-        ASSERT_TRUE(count.step());
-        EXPECT_EQ(count.integer(0), each.found) << each.criterion.toStdString();
+    for (const auto& [table, criterion, found] : cases) {
+        const QString counting = QStringLiteral("SELECT count(*) FROM %1 WHERE ").arg(table);
+        EXPECT_EQ(Column(connection, counting + TranslateJetCriterion(criterion, table)).join(u','),
+                  QLatin1String(found))
+            << criterion.toStdString();
     }
-    Statement rows = connection.prepare(
-        QStringLiteral("SELECT Id FROM (") +
-        TranslateJetSql(QStringLiteral("SELECT Id, Surname & ', ' & GivenName AS FullName FROM Indi")) +
-        QStringLiteral(") WHERE ") + TranslateJetCriterion(QStringLiteral("FullName Like 'smith, j*'")));
-    ASSERT_TRUE(rows.step());
-    EXPECT_EQ(rows.integer(0), 1);
+    const QString names =
+        TranslateJetSql(QStringLiteral("SELECT Id, Surname & ', ' & GivenName AS FullName FROM Indi"));
+    const QString criterion = TranslateJetCriterion(QStringLiteral("FullName Like 'smith, j*'"));
+    EXPECT_EQ(Column(connection, QStringLiteral("SELECT Id FROM (%1) WHERE %2").arg(names, criterion)).value(0), u"1");
     EXPECT_THROW(TranslateJetCriterion(QStringLiteral("Label = 'O'Brien'")), Error);
     EXPECT_THROW(TranslateJetCriterion(QString(100000, u'(')), Error);
     EXPECT_NO_THROW(TranslateJetCriterion(QStringLiteral("NOT ").repeated(100000) + u'1'));
 }
 
-TEST(JetSql, ParametersTakeTextsWithQuotes)
+TEST_F(JetSql, ParametersTakeTextsWithQuotes)
 {
-    TestWorld world;
-    Connection& connection = world.newFamilyFile().connection();
     Statement insert = connection.prepare(QStringLiteral("INSERT INTO SelectedItems (SetupName) VALUES (?1)"));
     insert.bind(1, QStringLiteral("Ann's; DROP ")).run();
     Statement find = connection.prepareJet(QStringLiteral("SELECT * FROM SelectedItems WHERE SetupName = ?1"));
@@ -148,10 +140,8 @@ TEST(JetSql, ParametersTakeTextsWithQuotes)
 
 /// A list of pictures must cost the same whatever the pictures weigh, so what tells which rows repeat may not read
 /// them.
-TEST(JetSql, DistinctRowsNeverReadPictures)
+TEST_F(JetSql, DistinctRowsNeverReadPictures)
 {
-    TestWorld world;
-    Connection& connection = world.newFamilyFile().connection();
     connection.execute(
         QStringLiteral("INSERT INTO AlbumTOC (Picture) VALUES (zeroblob(100000000)), (zeroblob(100000000));"
                        "INSERT INTO Pic2Person (PicId, PersId) VALUES (1, 1), (1, 2), (2, 1)"));

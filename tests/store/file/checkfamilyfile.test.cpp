@@ -11,13 +11,7 @@ namespace stemwright::test
 
 TEST(CheckFamilyFile, TellsFaultsFromWhatIsLivedWith)
 {
-    struct Case {
-        const char* change;
-        const char* fault;
-        const char* note;
-    };
-
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"INSERT INTO AlbumTOC DEFAULT VALUES; INSERT INTO Pic2Person (PicId, PersId) VALUES (1, 0)", "", ""},
         {"UPDATE TreeHeads SET SetupName = 'default '", "", ""},
         {"INSERT INTO Pic2Person (PicId) VALUES (5)", "Pic2Person.PicId", ""},
@@ -39,17 +33,16 @@ TEST(CheckFamilyFile, TellsFaultsFromWhatIsLivedWith)
         {"INSERT INTO Indi (Id) VALUES (3); INSERT INTO Spouse2Fam (SpouseId, FamId) VALUES (3, 2)", "",
          "Spouse2Fam.FamId"},
     };
-    for (const Case& each : cases) {
+    for (const auto& [change, fault, note] : cases) {
         TestWorld world;
         Connection& connection = world.newFamilyFile().connection();
-        connection.execute(QString::fromLatin1(each.change) + QStringLiteral("; PRAGMA ignore_check_constraints = 0"));
+        connection.execute(QString::fromLatin1(change) + QStringLiteral("; PRAGMA ignore_check_constraints = 0"));
         const FamilyFileReport report = CheckFamilyFile(connection);
-        for (const auto& [list, expected] :
-             {std::pair(report.faults, each.fault), std::pair(report.notes, each.note)}) {
+        for (const auto& [list, expected] : {std::pair(report.faults, fault), std::pair(report.notes, note)}) {
             const bool asExpected = *expected == '\0'
                                         ? list.isEmpty()
                                         : list.size() == 1 && list[0].contains(QString::fromLatin1(expected));
-            EXPECT_TRUE(asExpected) << each.change << ": " << list.join(u'\n').toStdString();
+            EXPECT_TRUE(asExpected) << change << ": " << list.join(u'\n').toStdString();
         }
     }
 }

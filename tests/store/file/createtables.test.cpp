@@ -38,7 +38,7 @@ QString Rows(Connection& connection)
 
 QString GoldenRows(const QString& applicationFolder)
 {
-    QString golden = QString::fromUtf8(ReadWholeFile(TestData(QStringLiteral("store/newfile.txt"))));
+    QString golden = TestDataText(QStringLiteral("store/newfile.txt"));
     golden.remove(0, golden.indexOf(u'\n') + 1);
     return golden.replace(QStringLiteral("<application>"), applicationFolder);
 }
@@ -72,7 +72,6 @@ TEST(CreateTables, ATableIsNotCreatedTwice)
     TestWorld world;
     Connection& connection = world.newFamilyFile().connection();
     EXPECT_THROW(CreateUniqueIdsTable(connection), SQLite::Exception);
-    EXPECT_THROW(CreatePicListQueriesTable(connection, world.environment), SQLite::Exception);
     CreatePreV2IndiTable(connection);
     CreatePreV2Pic2PersonTable(connection);
     EXPECT_TRUE(connection.hasTable(u"prev2indi"));

@@ -33,36 +33,23 @@ QByteArray NewFileBytes()
     return ReadWholeFile(path);
 }
 
-/// Changes a closed family file through the engine.
-void Change(const QString& path, const QString& sql)
-{
-    SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE).exec(sql.toStdString());
-}
-
 /// Makes the process an ordinary user for a while, since the superuser may write everywhere.
 class OrdinaryUser
 {
 public:
-    OrdinaryUser() : m_isSuperuser(::geteuid() == 0)
-    {
-        if (m_isSuperuser) {
-            EXPECT_EQ(::setresuid(nobody, nobody, 0), 0);
-        }
-    }
+    OrdinaryUser() { become(m_before == 0 ? nobody : m_before); }
 
     OrdinaryUser(const OrdinaryUser&) = delete;
     OrdinaryUser& operator=(const OrdinaryUser&) = delete;
 
-    ~OrdinaryUser()
-    {
-        if (m_isSuperuser) {
-            EXPECT_EQ(::setresuid(0, 0, 0), 0);
-        }
-    }
+    ~OrdinaryUser() { become(m_before); }
 
 private:
     static constexpr uid_t nobody = 65534;
-    bool m_isSuperuser;
+
+    void become(uid_t user) { EXPECT_EQ(::setresuid(user, user, m_before), 0); }
+
+    const uid_t m_before = ::geteuid();
 };
 
 } // namespace
@@ -108,7 +95,7 @@ TEST(FamilyFile, WhatIsNoFamilyFileIsRefusedAndTheOpenOneStaysOpen)
     for (const Case& each : cases) {
         const QString path = world.write(QStringLiteral("other.kvf"), each.content);
         if (!each.change.isEmpty()) {
-            Change(path, each.change);
+            SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE).exec(each.change.toStdString());
         }
         world.talk.expect(cannotOpen);
         EXPECT_FALSE(OpenFamilyFile(world.file, path, world.environment)) << each.reason.toStdString();
@@ -123,18 +110,15 @@ TEST(FamilyFile, PlacesThatHoldNoFileAreRefused)
 {
     TestWorld world;
     ASSERT_TRUE(CreateFolderPath(world.path(QStringLiteral("folder"))));
-    for (const auto& [name, reason] : {std::pair(QStringLiteral("missing.kvf"), QStringLiteral("no such file")),
-                                       std::pair(QStringLiteral("folder"), QStringLiteral("is a folder"))}) {
-        world.talk.expect(cannotOpen);
-        EXPECT_FALSE(OpenFamilyFile(world.file, world.path(name), world.environment));
-        EXPECT_TRUE(world.talk.shown().back().text.contains(reason)) << reason.toStdString();
-    }
-    for (const auto& [name, reason] : {std::pair(QStringLiteral("folder"), QStringLiteral("is not a file")),
-                                       std::pair(QStringLiteral("nowhere/x.kvf"), QStringLiteral("no folder"))}) {
-        world.talk.expect(cannotCreate);
-        EXPECT_FALSE(CreateFamilyFile(world.file, world.path(name), world.environment));
-        EXPECT_TRUE(world.talk.shown().back().text.contains(reason)) << reason.toStdString();
-    }
+    const auto expectRefused = [&world](auto procedure, const QString& title, const char* name, const char* reason) {
+        world.talk.expect(title);
+        EXPECT_FALSE(procedure(world.file, world.path(QString::fromLatin1(name)), world.environment)) << name;
+        EXPECT_TRUE(world.talk.shown().back().text.contains(QLatin1String(reason))) << reason;
+    };
+    expectRefused(OpenFamilyFile, cannotOpen, "missing.kvf", "no such file");
+    expectRefused(OpenFamilyFile, cannotOpen, "folder", "is a folder");
+    expectRefused(CreateFamilyFile, cannotCreate, "folder", "is not a file");
+    expectRefused(CreateFamilyFile, cannotCreate, "nowhere/x.kvf", "no folder");
     EXPECT_FALSE(world.file.isOpen());
 }
 
