@@ -71,6 +71,8 @@ int Run(int argc, char** argv)
         AddGedcomCommands(app, line);
         AddSetupCommands(app, line);
         AddPublishCommands(app, line);
+        AddPictureCommands(app, line);
+        AddMarkCommands(app, line);
         try {
             app.parse(argc, argv);
         } catch (const CLI::ParseError& error) {
