@@ -142,7 +142,7 @@ ImageStructure StructureOfJpeg(Walker& walker)
         const int length = walker.highFirst() - 2;
         Walker segment = walker;
         walker.skip(std::max(length, 0));
-        if (jpeg::IsFrame(marker) && structure.size.isNull()) {
+        if (jpeg::IsFrame(marker) && !structure.size.isValid()) {
             structure.size = jpeg::FrameSize(segment);
         }
         if (marker == jpeg::startOfScan) {

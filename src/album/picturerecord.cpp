@@ -14,10 +14,11 @@ namespace stemwright
 namespace
 {
 
-/// The columns of a record that stand in the index for lists (schema.cpp), in the order in which they are read.
-const QString recordColumns =
-    QStringLiteral("PicId, Title, Place, PictureDate, EncodPicDate, NamesLeft, Rectangle, PicType, PicFilename, "
-                   "PicWidth, PicHeight, ModificationDate");
+/// The columns of a record that lists show, in the order in which they are read. All of them stand in an index, so that
+/// a list never steps over a picture.
+const QString listColumns = QStringLiteral(
+    "PicId, Title, Place, PictureDate, EncodPicDate, NamesLeft, Rectangle, PicFilename, ModificationDate");
+constexpr int listColumnCount = 9;
 
 PictureRecord RecordOf(const Statement& row)
 {
@@ -29,10 +30,8 @@ PictureRecord RecordOf(const Statement& row)
     record.encodedDate = row.text(4);
     record.names = row.integer(5) == 0 ? NamePlacement::Above : NamePlacement::Left;
     record.pointer = row.integer(6) == 0 ? PointerTool::Arrow : PointerTool::Rectangle;
-    record.type = row.text(7);
-    record.filename = row.text(8);
-    record.size = QSize(row.integer(9), row.integer(10));
-    record.modified = row.text(11);
+    record.filename = row.text(7);
+    record.modified = row.text(8);
     return record;
 }
 
@@ -67,13 +66,16 @@ void WriteContent(Connection& connection, int id, const PictureRecord& record, c
 
 std::optional<PictureRecord> FindPictureRecord(Connection& connection, int pictureId)
 {
-    Statement select =
-        connection.prepare(QStringLiteral("SELECT %1, PicDescr FROM AlbumTOC WHERE PicId = ?1").arg(recordColumns));
+    Statement select = connection.prepare(
+        QStringLiteral("SELECT %1, PicDescr, PicType, PicWidth, PicHeight FROM AlbumTOC WHERE PicId = ?1")
+            .arg(listColumns));
     if (!select.bind(1, pictureId).step()) {
         return std::nullopt;
     }
     PictureRecord record = RecordOf(select);
-    record.description = select.text(12);
+    record.description = select.text(listColumnCount);
+    record.type = select.text(listColumnCount + 1);
+    record.size = QSize(select.integer(listColumnCount + 2), select.integer(listColumnCount + 3));
     return record;
 }
 
@@ -87,9 +89,8 @@ PictureRecord LoadPictureRecord(Connection& connection, int pictureId)
 
 std::vector<PictureRecord> ListPictures(Connection& connection)
 {
-    // Sorting by the expression rather than the column lets the engine read the index alone: to follow the order of the
-    // rows it would have to step over every picture.
-    Statement select = connection.prepare(QStringLiteral("SELECT %1 FROM AlbumTOC ORDER BY +PicId").arg(recordColumns));
+    // Sorting by an expression lets the engine read the index alone; in the order of the column it would read the rows.
+    Statement select = connection.prepare(QStringLiteral("SELECT %1 FROM AlbumTOC ORDER BY +PicId").arg(listColumns));
     std::vector<PictureRecord> records;
     while (select.step()) {
         records.push_back(RecordOf(select));

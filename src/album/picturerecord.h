@@ -57,7 +57,7 @@ std::optional<PictureRecord> FindPictureRecord(Connection& connection, int pictu
 /// The record of a picture, which must exist: throws Error otherwise.
 PictureRecord LoadPictureRecord(Connection& connection, int pictureId);
 
-/// What a list of pictures shows, by picture number, without touching a picture.
+/// All records by picture number, with what lists show: without description, file type and size.
 std::vector<PictureRecord> ListPictures(Connection& connection);
 
 /// The places of all pictures, each once, for the user to choose from.

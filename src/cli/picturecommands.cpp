@@ -25,25 +25,21 @@ struct RecordOptions {
     std::optional<std::string> date;
     std::optional<std::string> place;
     std::optional<std::string> description;
-    std::optional<NamePlacement> names;
-    std::optional<PointerTool> marks;
+    std::string names;
+    std::string marks;
 };
 
 void AddRecordOptions(CLI::App& command, RecordOptions& options)
 {
-    const std::map<std::string, NamePlacement> placements = {{"left", NamePlacement::Left},
-                                                             {"above", NamePlacement::Above}};
-    const std::map<std::string, PointerTool> tools = {{"rectangle", PointerTool::Rectangle},
-                                                      {"arrow", PointerTool::Arrow}};
     command.add_option("--title", options.title, "What the picture shows");
     command.add_option("--date", options.date,
                        "When it was taken, for example \"12 Mar 1950\", \"Abt. 1950\"; \"\" for no date");
     command.add_option("--place", options.place, "Where it was taken");
     command.add_option("--description", options.description, "More about it");
     command.add_option("--names", options.names, "Where the names stand on the picture's page: left or above")
-        ->transform(CLI::CheckedTransformer(placements, CLI::ignore_case));
+        ->check(CLI::IsMember({"left", "above"}));
     command.add_option("--marks", options.marks, "What marks the persons: rectangle or arrow")
-        ->transform(CLI::CheckedTransformer(tools, CLI::ignore_case));
+        ->check(CLI::IsMember({"rectangle", "arrow"}));
 }
 
 /// Puts the options into the record and writes it. Returns the picture's number.
@@ -68,11 +64,11 @@ int Apply(PictureEditing& editing, const RecordOptions& options, Talk& talk)
     if (options.description) {
         editing.setDescription(CommandLine::textOf(*options.description));
     }
-    if (options.names) {
-        editing.setNames(*options.names);
+    if (!options.names.empty()) {
+        editing.setNames(options.names == "left" ? NamePlacement::Left : NamePlacement::Above);
     }
-    if (options.marks) {
-        Require(editing.RectangleOnOff(*options.marks));
+    if (!options.marks.empty()) {
+        Require(editing.RectangleOnOff(options.marks == "arrow" ? PointerTool::Arrow : PointerTool::Rectangle));
     }
     return editing.apply();
 }
