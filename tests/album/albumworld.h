@@ -6,6 +6,8 @@
 #include "album/testpictures.h"
 #include "support/testworld.h"
 
+#include <gtest/gtest.h>
+
 namespace stemwright::test
 {
 
