@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "album/imagefile.h"
 
+#include "album/imagedecoder.h"
 #include "base/error.h"
-
-#include <QtCore/QBuffer>
-#include <QtGui/QImageReader>
 
 namespace stemwright
 {
@@ -17,27 +15,6 @@ QString NameOf(ImageFormat format)
 {
     return format == ImageFormat::Gif ? QStringLiteral("GIF") : QStringLiteral("JPEG");
 }
-
-/// Reads upright images of one format from bytes; whatever else the reader's plugins understand is left alone.
-class BytesReader
-{
-public:
-    BytesReader(const QByteArray& bytes, ImageFormat format)
-    {
-        m_buffer.setData(bytes);
-        m_buffer.open(QIODevice::ReadOnly);
-        m_reader.setDevice(&m_buffer);
-        m_reader.setFormat(NameOf(format).toLower().toLatin1());
-        m_reader.setAutoDetectImageFormat(false);
-        m_reader.setAutoTransform(true);
-    }
-
-    QImageReader* operator->() { return &m_reader; }
-
-private:
-    QBuffer m_buffer;
-    QImageReader m_reader;
-};
 
 void RequireShowableSize(const ImageStructure& structure)
 {
@@ -59,9 +36,7 @@ ImageFile::ImageFile(QByteArray bytes) : m_bytes(std::move(bytes)), m_structure(
 {
     RequireShowableSize(m_structure);
     if (m_structure.format == ImageFormat::Jpeg) {
-        m_turned = BytesReader(m_bytes, m_structure.format)
-                       ->transformation()
-                       .testFlag(QImageIOHandler::TransformationRotate90);
+        m_turned = LoadedImageDecoder().isTurned(m_bytes, m_structure.format);
     }
 }
 
@@ -70,16 +45,15 @@ QSize ImageFile::size() const
     return m_turned ? m_structure.size.transposed() : m_structure.size;
 }
 
-QImage ImageFile::scaledTo(QSize size) const
+QByteArray ImageFile::bitmapOf(QSize size) const
 {
-    BytesReader reader(m_bytes, m_structure.format);
-    // The reader scales before it turns.
-    reader->setScaledSize(m_turned ? size.transposed() : size);
-    QImage image = reader->read();
-    if (image.isNull()) {
+    // The decoder scales before it turns.
+    QByteArray bitmap =
+        LoadedImageDecoder().scaledBitmap(m_bytes, m_structure.format, m_turned ? size.transposed() : size);
+    if (bitmap.isEmpty()) {
         throw Error(QStringLiteral("The picture is damaged or of an unusual kind: it cannot be decoded."));
     }
-    return image;
+    return bitmap;
 }
 
 const QStringList& ExtensionsOf(ImageFormat format)

@@ -6,11 +6,11 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
-#include <QtGui/QImage>
+#include <QtCore/QStringList>
 
 /// A picture file that is fit for the album: a whole GIF or JPEG of a size that can be shown and marked, recognised by
 /// its content and not by its name. Anything else is refused with Error before much memory is spent on it. Stands on
-/// Qt's image readers, which need no display.
+/// the image decoder, which needs no display.
 namespace stemwright
 {
 
@@ -35,9 +35,10 @@ public:
     /// orientation). Thumbnails and marks are in the same coordinates; the bytes stay as they are.
     QSize size() const;
 
-    /// The picture (of an animation, the first frame) turned upright and scaled smoothly to exactly `size`. A JPEG is
-    /// decoded no larger than needed. Throws Error for a picture that cannot be decoded.
-    QImage scaledTo(QSize size) const;
+    /// The picture (of an animation, the first frame) turned upright and scaled smoothly to exactly `size`, as the
+    /// bytes of a Windows bitmap file; transparent places become white. A JPEG is decoded no larger than needed. Throws
+    /// Error for a picture that cannot be decoded.
+    QByteArray bitmapOf(QSize size) const;
 
 private:
     QByteArray m_bytes;

@@ -5,9 +5,6 @@
 #include "album/messages.h"
 #include "base/error.h"
 
-#include <QtCore/QBuffer>
-#include <QtGui/QPainter>
-
 #include <cmath>
 
 namespace stemwright
@@ -20,17 +17,6 @@ namespace
 int Follow(int side, int scaled, int original)
 {
     return std::max(1, static_cast<int>(std::nearbyint(static_cast<double>(side) * scaled / original)));
-}
-
-QImage OnWhite(const QImage& image)
-{
-    if (!image.hasAlphaChannel()) {
-        return image.convertToFormat(QImage::Format_RGB32);
-    }
-    QImage flat(image.size(), QImage::Format_RGB32);
-    flat.fill(Qt::white);
-    QPainter(&flat).drawImage(0, 0, image);
-    return flat;
 }
 
 void MeasureAndScale(Connection& connection, int pictureId, const QByteArray& bytes)
@@ -75,11 +61,7 @@ QSize ThumbnailSize(QSize picture)
 
 QByteArray MakeThumbnail(const ImageFile& image)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    OnWhite(image.scaledTo(ThumbnailSize(image.size()))).save(&buffer, "BMP");
-    return bytes;
+    return image.bitmapOf(ThumbnailSize(image.size()));
 }
 
 void CreateAllThumbnails(Connection& connection, Talk& talk)
