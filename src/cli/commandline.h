@@ -66,5 +66,7 @@ void AddFileCommands(CLI::App& app, CommandLine& line);
 void AddGedcomCommands(CLI::App& app, CommandLine& line);
 void AddSetupCommands(CLI::App& app, CommandLine& line);
 void AddPublishCommands(CLI::App& app, CommandLine& line);
+void AddPictureCommands(CLI::App& app, CommandLine& line);
+void AddMarkCommands(CLI::App& app, CommandLine& line);
 
 } // namespace stemwright

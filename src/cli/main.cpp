@@ -6,6 +6,7 @@
 #include "cli/consoletalk.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QLoggingCategory>
 
 #include <clocale>
 #include <cstdio>
@@ -71,6 +72,8 @@ int Run(int argc, char** argv)
         AddGedcomCommands(app, line);
         AddSetupCommands(app, line);
         AddPublishCommands(app, line);
+        AddPictureCommands(app, line);
+        AddMarkCommands(app, line);
         try {
             app.parse(argc, argv);
         } catch (const CLI::ParseError& error) {
@@ -94,5 +97,7 @@ int main(int argc, char** argv)
 {
     stemwright::UseUtf8();
     const QCoreApplication application(argc, argv);
+    // What a decoder has to say about a flaw of a picture is no message to a user.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));
     return stemwright::Run(argc, argv);
 }

@@ -35,6 +35,20 @@ void Harden(SQLite::Database& database)
     database.exec("PRAGMA cell_size_check=ON");
 }
 
+/// How a new file is laid out. A large value fills a chain of pages, each of which names the next; what stands behind
+/// it in its row is found by following the chain. The page directory that incremental vacuuming keeps lets the engine
+/// guess the next page without reading this one, and larger pages make the chain short. Measured for 2,000 thumbnails
+/// of 14 KB behind pictures of 1 MB, against the same behind 10 KB: 35 times as long with pages of 4 KB and no
+/// directory, 2.0 with 4 KB and the directory, 1.5 with 8 KB, 1.3 with 16 KB, 1.6 with 32 KB (every row's own page is
+/// read whole).
+constexpr int pageSize = 16384;
+
+void LayOut(SQLite::Database& database)
+{
+    database.exec("PRAGMA page_size=" + std::to_string(pageSize));
+    database.exec("PRAGMA auto_vacuum=INCREMENTAL");
+}
+
 /// Takes the lock that keeps every other program out until the connection is closed: in this mode the engine never
 /// lowers a lock that it has. A journal that a killed program left is played back here.
 void Lock(SQLite::Database& database)
@@ -222,6 +236,9 @@ Connection::Connection(const QString& path, OpenMode mode)
     : m_path(path), m_database(path.toUtf8().constData(), OpenFlags(mode))
 {
     Harden(m_database);
+    if (mode == OpenMode::CreateNew) {
+        LayOut(m_database);
+    }
     m_database.exec("PRAGMA cache_size=-" + std::to_string(cacheKilobytes));
     Lock(m_database);
     AddTextFunctions(m_database.getHandle());

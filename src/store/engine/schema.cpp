@@ -70,12 +70,25 @@ void AppendEventSlots(std::vector<ColumnDefinition>& columns, int slots)
 
 IndexDefinition PrimaryKey(const char* column)
 {
-    return {QString::fromLatin1(column), IndexKind::Primary};
+    return {QString::fromLatin1(column), IndexKind::Primary, {}};
 }
 
 IndexDefinition Index(const char* column)
 {
-    return {QString::fromLatin1(column), IndexKind::Plain};
+    return {QString::fromLatin1(column), IndexKind::Plain, {}};
+}
+
+/// All that lists of pictures show, in an index of its own. A column behind the picture is reached only by stepping
+/// over the picture: a list of 2,000 pictures of 1 MB with its Rectangle column took 1100 ms without the index (16 ms
+/// in today's file layout, see connection.cpp) and takes 0.6 ms with it, as with pictures of 10 KB. The engine reads an
+/// index alone only while it expects it to be narrower than the rows, so that nothing else should be added here.
+IndexDefinition PictureListIndex()
+{
+    return {QStringLiteral("EncodPicDate"),
+            IndexKind::Plain,
+            {QStringLiteral("PictureDate"), QStringLiteral("Place"), QStringLiteral("Title"),
+             QStringLiteral("ModificationDate"), QStringLiteral("PicFilename"), QStringLiteral("NamesLeft"),
+             QStringLiteral("Rectangle")}};
 }
 
 TableDefinition Indi()
@@ -111,7 +124,7 @@ TableDefinition AlbumTOC()
             {Text("PictureDate"), Text("Place"), Text("Title"), Date("ModificationDate"), Text("EncodPicDate"),
              AutoNumber("PicId"), Memo("PicDescr"), YesNo("NamesLeft"), Text("PicType"), Text("PicFilename"),
              Binary("Picture"), YesNo("Rectangle"), Binary("Thumb"), Integer("PicWidth"), Integer("PicHeight")},
-            {PrimaryKey("PicId")}};
+            {PrimaryKey("PicId"), PictureListIndex()}};
 }
 
 TableDefinition PicListQueries()
@@ -351,7 +364,9 @@ QStringList CreateIndexesSql(const TableDefinition& table)
     QStringList statements;
     for (const IndexDefinition& index : table.indexes) {
         if (index.kind == IndexKind::Plain) {
-            statements << QStringLiteral("CREATE INDEX \"%1_%2\" ON \"%1\" (\"%2\")").arg(table.name, index.column);
+            const QStringList columns = QStringList(index.column) + index.carried;
+            statements << QStringLiteral("CREATE INDEX \"%1_%2\" ON \"%1\" (\"%3\")")
+                              .arg(table.name, index.column, columns.join(QStringLiteral("\", \"")));
         }
     }
     return statements;

@@ -36,6 +36,8 @@ enum class IndexKind { Primary, Plain };
 struct IndexDefinition {
     QString column;
     IndexKind kind = IndexKind::Plain;
+    /// Columns that stand in the index too, so that whoever needs only those never reads the rows.
+    QStringList carried;
 };
 
 struct TableDefinition {

@@ -70,6 +70,17 @@ void RequireNothingElse(Connection& connection)
     }
 }
 
+/// The engine fills up a last page that was cut off with zeros; it only notices when whole pages are missing.
+void RequireWholeLength(Connection& connection)
+{
+    Statement length =
+        connection.prepare(QStringLiteral("SELECT page_count * page_size FROM pragma_page_count, pragma_page_size"));
+    length.step();
+    if (QFileInfo(connection.path()).size() < length.integer64(0)) {
+        Refuse(QStringLiteral("The file is damaged: its end is missing."));
+    }
+}
+
 QStringList ColumnsOf(Connection& connection, const QString& table)
 {
     QStringList names;
@@ -127,6 +138,7 @@ void RequireEngineFile(const QString& path)
 
 void RequireFamilyFile(Connection& connection)
 {
+    RequireWholeLength(connection);
     if (!connection.hasTable(u"GenInfo")) {
         Refuse(QStringLiteral("It is not a family file."));
     }

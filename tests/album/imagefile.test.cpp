@@ -1,0 +1,129 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "album/imagefile.h"
+
+#include "album/testpictures.h"
+#include "album/thumbnail.h"
+#include "base/error.h"
+
+#include <gtest/gtest.h>
+
+namespace stemwright::test
+{
+
+namespace
+{
+
+/// The error of a refused picture; empty for one that is taken and can be decoded.
+QString Refusal(const QByteArray& bytes)
+{
+    try {
+        MakeThumbnail(ImageFile(bytes));
+        return {};
+    } catch (const Error& error) {
+        return error.text();
+    }
+}
+
+QByteArray CornersJpeg()
+{
+    return JpegOf(CornersPicture({160, 120}));
+}
+
+} // namespace
+
+TEST(ImageFile, RefusesWhatIsNoWholePicture)
+{
+    const QByteArray jpeg = CornersJpeg();
+    const QByteArray gif = AnimatedGif();
+    QByteArray restartedMarker = jpeg;
+    restartedMarker.replace(2, 2, "\xFF\xD8");
+    const std::vector<std::pair<QByteArray, QString>> pictures = {
+        {{}, QStringLiteral("The file is empty.")},
+        {"<svg xmlns='http://www.w3.org/2000/svg'/>", QStringLiteral("It is neither a GIF nor a JPEG picture.")},
+        {"\x89PNG\r\n\x1A\n", QStringLiteral("It is neither a GIF nor a JPEG picture.")},
+        {jpeg.left(3), QStringLiteral("The picture is damaged or not complete.")},
+        {restartedMarker, QStringLiteral("The picture is damaged or not complete.")},
+        {jpeg.left(jpeg.indexOf("\xFF\xDA")) + "\xFF\xD9", QStringLiteral("The picture is damaged or not complete.")},
+        {gif.left(13), QStringLiteral("The picture is damaged or not complete.")},
+        {gif.left(100) + QByteArray(400, '\x99'), QStringLiteral("The picture is damaged or not complete.")},
+    };
+    for (const auto& [bytes, reason] : pictures) {
+        EXPECT_EQ(Refusal(bytes), reason) << bytes.left(12).toHex().toStdString() << ", " << bytes.size() << " bytes";
+    }
+}
+
+TEST(ImageFile, NoticesEveryPlaceWhereAPictureMayBeCutOff)
+{
+    const QByteArray jpeg = CornersJpeg();
+    for (qsizetype length = 0; length < jpeg.size(); length += 7) {
+        EXPECT_FALSE(Refusal(jpeg.left(length)).isEmpty()) << length;
+    }
+    const QByteArray gif = AnimatedGif();
+    int taken = 0;
+    for (qsizetype length = 0; length < gif.size(); ++length) {
+        taken += Refusal(gif.left(length)).isEmpty() ? 1 : 0;
+    }
+    // Behind the first frame, the extension that announces the second one, and the second one it is a whole picture.
+    EXPECT_EQ(taken, 3);
+}
+
+TEST(ImageFile, SurvivesWhateverIsWrongInAByte)
+{
+    const QByteArray jpeg = CornersJpeg();
+    const QByteArray gif = AnimatedGif();
+    for (const QByteArray& picture : {jpeg, gif}) {
+        for (qsizetype position = 0; position < picture.size(); ++position) {
+            QByteArray damaged = picture;
+            damaged[position] = static_cast<char>(damaged[position] ^ 0xFF);
+            Refusal(damaged);
+        }
+    }
+}
+
+TEST(ImageFile, RefusesMorePixelsThanAnyoneHasAndEndlessScans)
+{
+    const QByteArray jpeg = CornersJpeg();
+    EXPECT_TRUE(Refusal(ClaimSize(jpeg, 60'000, 10)).contains(QStringLiteral("60000 x 10 pixels")));
+    EXPECT_TRUE(Refusal(ClaimSize(jpeg, 29'000, 29'000)).contains(QStringLiteral("more than the album takes")));
+    QByteArray manyScans = jpeg.left(jpeg.size() - 2);
+    for (int scan = 0; scan <= mostPasses; ++scan) {
+        manyScans += QByteArray("\xFF\xDA\x00\x02", 4);
+    }
+    EXPECT_TRUE(Refusal(manyScans + "\xFF\xD9").contains(QStringLiteral("very long")));
+}
+
+TEST(ImageFile, ShowsTheFirstFrameOfAnAnimation)
+{
+    const ImageFile image(AnimatedGif());
+    EXPECT_EQ(image.format(), ImageFormat::Gif);
+    EXPECT_EQ(image.size(), QSize(160, 120));
+    EXPECT_TRUE(Alike(QImage::fromData(image.bitmapOf({80, 60}), "BMP").pixel(40, 30), 0xFFFF0000));
+}
+
+TEST(ImageFile, TurnsPicturesUpright)
+{
+    const QImage upright = CornersPicture({160, 96});
+    for (int orientation = 1; orientation <= 8; ++orientation) {
+        const ImageFile image(TurnedJpeg(upright, orientation));
+        EXPECT_EQ(image.size(), upright.size()) << orientation;
+        const QImage thumbnail = QImage::fromData(MakeThumbnail(image), "BMP");
+        ASSERT_EQ(thumbnail.size(), QSize(80, 48)) << orientation;
+        const std::array<QPoint, 4> corners = {QPoint(8, 8), QPoint(72, 8), QPoint(72, 40), QPoint(8, 40)};
+        for (std::size_t corner = 0; corner < corners.size(); ++corner) {
+            EXPECT_TRUE(Alike(thumbnail.pixel(corners[corner]), cornerColours[corner])) << orientation << ' ' << corner;
+        }
+    }
+}
+
+TEST(ImageFile, WantsNamesThatSayWhatTheContentIs)
+{
+    for (const char* extension : {"jpg", "JPG", "Jpeg", "jpe"}) {
+        EXPECT_NO_THROW(RequireFittingExtension(QString::fromLatin1(extension), ImageFormat::Jpeg)) << extension;
+        EXPECT_THROW(RequireFittingExtension(QString::fromLatin1(extension), ImageFormat::Gif), Error) << extension;
+    }
+    EXPECT_NO_THROW(RequireFittingExtension(QStringLiteral("GIF"), ImageFormat::Gif));
+    EXPECT_THROW(RequireFittingExtension(QString(), ImageFormat::Jpeg), Error);
+}
+
+} // namespace stemwright::test
