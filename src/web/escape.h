@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
-/// Puts texts into pages. Pages are ASCII, and so valid ISO-8859-1 whatever a browser takes them for (the head of the tree
-/// pages names its character set in a way that browsers do not read); every other character becomes a numeric character
-/// reference, so that every name of every script shows. Whatever comes from data goes through the function for the
-/// place where it is written. All functions append to `page` and take UTF-8 (damaged sequences show as U+FFFD); control
-/// characters are left out, line breaks and tabs become blanks. Nothing here fails. Stands on nothing.
+/// Puts texts into pages. Pages are ASCII, and so valid ISO-8859-1 whatever a browser takes them for (the head of the
+/// tree pages names its character set in a way that browsers do not read); every other character becomes a numeric
+/// character reference, so that every name of every script shows. Whatever comes from data goes through the function
+/// for the place where it is written. All functions append to `page` and take UTF-8 (damaged sequences show as U+FFFD);
+/// control characters are left out, line breaks and tabs become blanks. Nothing here fails. Stands on nothing.
 namespace stemwright
 {
 
