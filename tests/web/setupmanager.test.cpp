@@ -106,8 +106,8 @@ TEST_F(SetupManagerTest, CloneCopiesEverythingButNameFolderAndTreeNumber)
         "UPDATE WebSiteInfo SET Later = 'kept', WebPageFolder = '/sites/fampages/Default', MaxPrivacyAge = 77");
     world.execute("UPDATE TreeHeads SET TreeHeadId = 2, TreeHeadName = 'O''Hara', GenDisplayType = 'CollapsiTree'");
     world.execute("UPDATE SelectedItems SET SetupName = 'Default ' WHERE rowid > 2");
-    SetupManager manager(world.connection(), world.own);
-    ASSERT_TRUE(manager.clone(QStringLiteral("default"), QStringLiteral("O'Hara")));
+    SetupManager later(world.connection(), world.own);
+    ASSERT_TRUE(later.clone(QStringLiteral("default"), QStringLiteral("O'Hara")));
 
     EXPECT_EQ(world.column(QStringLiteral("SELECT Later || MaxPrivacyAge || WebPageFolder || EmblemPicture FROM"
                                           " WebSiteInfo WHERE SetupName = 'O''Hara'")),
@@ -122,7 +122,7 @@ TEST_F(SetupManagerTest, CloneCopiesEverythingButNameFolderAndTreeNumber)
     EXPECT_NE(clone->trees.front().number, source->trees.front().number);
 
     world.talk.expect(QStringLiteral("Web Site Setup"));
-    EXPECT_FALSE(manager.clone(QStringLiteral("Nobody"), QStringLiteral("New")));
+    EXPECT_FALSE(later.clone(QStringLiteral("Nobody"), QStringLiteral("New")));
 }
 
 TEST_F(SetupManagerTest, RenameLeavesABlankAfterTheNameOfItemsAndTrees)
