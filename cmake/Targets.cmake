@@ -65,6 +65,11 @@ function(use_precompiled_headers TARGET)
     <algorithm> <cstdint> <functional> <memory> <optional> <string> <string_view> <vector>)
 endfunction()
 
+# Tests write texts as plain literals; sources have to say what they convert.
+function(allow_plain_texts TARGET)
+  target_compile_options(${TARGET} PRIVATE -UQT_NO_CAST_FROM_ASCII)
+endfunction()
+
 # stemwright_tests(FOLDER store SOURCES a.test.cpp ... DEPENDS store/file ...): one test program a folder of src/.
 function(stemwright_tests)
   cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;DEPENDS;LIBRARIES" ${ARGN})
@@ -78,6 +83,7 @@ function(stemwright_tests)
     target_link_libraries(${TARGET} PRIVATE ${FLOOR_TARGET})
   endforeach()
   use_precompiled_headers(${TARGET})
+  allow_plain_texts(${TARGET})
   gtest_discover_tests(${TARGET} TEST_PREFIX ${NAME}. DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 300)
 endfunction()
 include(GoogleTest)

@@ -16,32 +16,6 @@ namespace stemwright::test
 namespace
 {
 
-/// Where the pixel that is stored in this row and column stands in the upright picture, by the definition of the
-/// orientation: which sides of the scene the first row and the first column show.
-QPoint UprightPlace(int orientation, int row, int column, QSize upright)
-{
-    const int right = upright.width() - 1;
-    const int bottom = upright.height() - 1;
-    switch (orientation) {
-    case 2:
-        return {right - column, row};
-    case 3:
-        return {right - column, bottom - row};
-    case 4:
-        return {column, bottom - row};
-    case 5:
-        return {row, column};
-    case 6:
-        return {right - row, column};
-    case 7:
-        return {right - row, bottom - column};
-    case 8:
-        return {row, bottom - column};
-    default:
-        return {column, row};
-    }
-}
-
 QByteArray HighFirst(int value)
 {
     return {std::initializer_list<char>{static_cast<char>(value >> 8), static_cast<char>(value & 0xFF)}.begin(), 2};
@@ -90,23 +64,9 @@ QByteArray JpegOfBytes(qsizetype bytes)
     return jpeg;
 }
 
-QByteArray TurnedJpeg(const QImage& upright, int orientation)
-{
-    QImage stored(orientation < 5 ? upright.size() : upright.size().transposed(), QImage::Format_RGB32);
-    for (int row = 0; row < stored.height(); ++row) {
-        for (int column = 0; column < stored.width(); ++column) {
-            stored.setPixel(column, row, upright.pixel(UprightPlace(orientation, row, column, upright.size())));
-        }
-    }
-    // The smallest EXIF block: big-endian, one directory with one short number, the orientation (tag 0x0112).
-    const QByteArray exif = QByteArray("Exif\0\0MM\0\x2A\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0", 25) +
-                            static_cast<char>(orientation) + QByteArray(6, '\0');
-    return WithSegment(JpegOf(stored), '\xE1', exif);
-}
-
 QByteArray AnimatedGif()
 {
-    return ReadWholeFile(TestData(QStringLiteral("album/animated.gif")));
+    return ReadWholeFile(TestData("album/animated.gif"));
 }
 
 QByteArray ClaimSize(QByteArray jpeg, int width, int height)

@@ -21,9 +21,6 @@ QByteArray JpegOf(const QImage& image);
 /// A JPEG of a wanted size in bytes, filled up by comments.
 QByteArray JpegOfBytes(qsizetype bytes);
 
-/// The picture stored as a camera does that was held in the way which the EXIF orientation (1 to 8) names.
-QByteArray TurnedJpeg(const QImage& upright, int orientation);
-
 /// An animation whose first frame (160 x 120) is red and whose second is blue.
 QByteArray AnimatedGif();
 

@@ -36,7 +36,7 @@ TEST(Thumbnail, IsABitmapOnWhite)
 {
     // The emblem of new setups has a transparent ground.
     const TestWorld world;
-    QFile emblem(world.application.file(QStringLiteral("graphics/tree.gif")));
+    QFile emblem(world.application.file("graphics/tree.gif"));
     ASSERT_TRUE(emblem.open(QIODevice::ReadOnly));
     const QByteArray bytes = MakeThumbnail(ImageFile(emblem.readAll()));
     EXPECT_EQ(bytes.size(), 54 + 80 * 80 * 3);
@@ -53,10 +53,10 @@ TEST(Thumbnail, IsMadeForAWholeAlbum)
     const std::array<QByteArray, 4> pictures = {JpegOf(CornersPicture({160, 120})), JpegOfBytes(121 * 1024), "damaged",
                                                 QByteArray()};
     for (const QByteArray& picture : pictures) {
-        connection.prepare(QStringLiteral("INSERT INTO AlbumTOC (Picture) VALUES (?1)")).bindBytes(1, picture).run();
+        connection.prepare("INSERT INTO AlbumTOC (Picture) VALUES (?1)").bindBytes(1, picture).run();
     }
     CreateAllThumbnails(connection, world.talk);
-    Statement rows = connection.prepare(QStringLiteral("SELECT PicWidth, length(Thumb) FROM AlbumTOC ORDER BY PicId"));
+    Statement rows = connection.prepare("SELECT PicWidth, length(Thumb) FROM AlbumTOC ORDER BY PicId");
     const std::vector<std::pair<std::optional<int>, std::optional<int>>> expected = {
         {160, 54 + 80 * 60 * 3}, {160, std::nullopt}, {std::nullopt, std::nullopt}, {std::nullopt, std::nullopt}};
     for (const auto& [width, thumbnail] : expected) {
@@ -64,7 +64,7 @@ TEST(Thumbnail, IsMadeForAWholeAlbum)
         EXPECT_EQ(rows.optionalInteger(0), width);
         EXPECT_EQ(rows.optionalInteger(1), thumbnail);
     }
-    EXPECT_EQ(world.talk.captions(), QStringList(QStringLiteral("Creating thumbnails of your pictures")));
+    EXPECT_EQ(world.talk.captions(), QStringList("Creating thumbnails of your pictures"));
     EXPECT_EQ(world.talk.percents().back(), 100);
 }
 

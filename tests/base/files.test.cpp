@@ -27,19 +27,19 @@ QStringList FilesIn(const QTemporaryDir& folder)
 TEST(Files, WritesWholeFilesOrNone)
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("ä b.txt"));
+    const QString path = folder.filePath("ä b.txt");
     const QByteArray content = QByteArray(100000, 'x') + QByteArray(1, '\0');
     WriteWholeFile(path, content);
     WriteWholeFile(path, content);
     EXPECT_EQ(ReadWholeFile(path), content);
-    EXPECT_THROW(WriteWholeFile(folder.filePath(QStringLiteral("no/such")), content), Error);
-    EXPECT_THROW(ReadWholeFile(folder.filePath(QStringLiteral("none"))), Error);
+    EXPECT_THROW(WriteWholeFile(folder.filePath("no/such"), content), Error);
+    EXPECT_THROW(ReadWholeFile(folder.filePath("none")), Error);
 }
 
 TEST(Files, AnUnfinishedFileIsSeenOnlyWhenItIsWhole)
 {
     const QTemporaryDir folder;
-    const QString target = folder.filePath(QStringLiteral("Family.kvf"));
+    const QString target = folder.filePath("Family.kvf");
     WriteWholeFile(target, "old");
     {
         const UnfinishedFile given(target);
@@ -53,7 +53,7 @@ TEST(Files, AnUnfinishedFileIsSeenOnlyWhenItIsWhole)
         kept.putInPlace();
     }
     EXPECT_EQ(ReadWholeFile(target), "new");
-    EXPECT_EQ(FilesIn(folder), QStringList{QStringLiteral("Family.kvf")});
+    EXPECT_EQ(FilesIn(folder), QStringList{"Family.kvf"});
     UnfinishedFile never(target);
     EXPECT_THROW(never.putInPlace(), Error);
     EXPECT_EQ(ReadWholeFile(target), "new");
@@ -62,16 +62,14 @@ TEST(Files, AnUnfinishedFileIsSeenOnlyWhenItIsWhole)
 TEST(Files, OnlyWhatDeadProgramsLeftIsRemoved)
 {
     const QTemporaryDir folder;
-    const QString running = QStringLiteral("Family.kvf.%1.unfinished").arg(::getppid());
+    const QString running = QString("Family.kvf.%1.unfinished").arg(::getppid());
     // Process numbers end long before this one.
-    const QStringList dead = {QStringLiteral("Family.kvf.999999999.unfinished"),
-                              QStringLiteral("Family.kvf.999999999.unfinished-journal")};
-    const QStringList others = {running, QStringLiteral("Family.kvf.my.unfinished"), QStringLiteral("Family.kvf"),
-                                QStringLiteral("Other.kvf.999999999.unfinished")};
+    const QStringList dead = {"Family.kvf.999999999.unfinished", "Family.kvf.999999999.unfinished-journal"};
+    const QStringList others = {running, "Family.kvf.my.unfinished", "Family.kvf", "Other.kvf.999999999.unfinished"};
     for (const QString& name : dead + others) {
         WriteWholeFile(folder.filePath(name), "x");
     }
-    const UnfinishedFile unfinished(folder.filePath(QStringLiteral("Family.kvf")));
+    const UnfinishedFile unfinished(folder.filePath("Family.kvf"));
     QStringList left = others;
     left.sort();
     EXPECT_EQ(FilesIn(folder), left);

@@ -14,10 +14,9 @@ namespace stemwright::test
 TEST(Settings, ValuesComeBackAsTheyWereInTheNextRun)
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("new folder/s.ini"));
-    const QString values[] = {QStringLiteral("/srv/ann/Smith, John; \"old\" %20.kvf"),
-                              QStringLiteral("C:\\Data\\x.kvf"), QStringLiteral("Фамилия=é"),
-                              QStringLiteral("@Variant(1)"), QStringLiteral(" blanks ")};
+    const QString path = folder.filePath("new folder/s.ini");
+    const QString values[] = {"/srv/ann/Smith, John; \"old\" %20.kvf", "C:\\Data\\x.kvf", "Фамилия=é", "@Variant(1)",
+                              " blanks "};
     for (const QString& value : values) {
         FileSettings(path).setValue(setting::openCreateFamFile, setting::lastFamilyFile, value);
         EXPECT_EQ(FileSettings(path).value(setting::openCreateFamFile, setting::lastFamilyFile), value);
@@ -29,15 +28,13 @@ TEST(Settings, ValuesComeBackAsTheyWereInTheNextRun)
 TEST(Settings, WhatCannotBeKeptIsLostWithoutAnError)
 {
     const QTemporaryDir folder;
-    WriteWholeFile(folder.filePath(QStringLiteral("file")), "x");
-    FileSettings settings(folder.filePath(QStringLiteral("file/s.ini")));
-    settings.setValue(setting::gedcom, setting::gedcomPath, QStringLiteral("/tmp"));
+    WriteWholeFile(folder.filePath("file"), "x");
+    FileSettings settings(folder.filePath("file/s.ini"));
+    settings.setValue(setting::gedcom, setting::gedcomPath, "/tmp");
     EXPECT_TRUE(settings.value(setting::gedcom, setting::gedcomPath).isEmpty());
     constexpr char damaged[] = "\xFF\xFE[\0\n=%%%\n[GEDCOM\nGedcomPath";
-    WriteWholeFile(folder.filePath(QStringLiteral("damaged.ini")), QByteArray(damaged, sizeof damaged - 1));
-    EXPECT_TRUE(FileSettings(folder.filePath(QStringLiteral("damaged.ini")))
-                    .value(setting::gedcom, setting::gedcomPath)
-                    .isEmpty());
+    WriteWholeFile(folder.filePath("damaged.ini"), QByteArray(damaged, sizeof damaged - 1));
+    EXPECT_TRUE(FileSettings(folder.filePath("damaged.ini")).value(setting::gedcom, setting::gedcomPath).isEmpty());
 }
 
 } // namespace stemwright::test

@@ -15,10 +15,22 @@ std::ostream& operator<<(std::ostream& stream, const Outcome& outcome)
 
 CliWorld::CliWorld() : m_environment(QProcessEnvironment::systemEnvironment())
 {
-    m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), path(QStringLiteral("settings")));
+    m_environment.insert("XDG_CONFIG_HOME", path("settings"));
 }
 
 Outcome CliWorld::run(const QStringList& arguments, const Variables& variables) const
+{
+    return runProgram(STEMWRIGHT_CLI, arguments, {}, variables);
+}
+
+Outcome CliWorld::runOnTerminal(const QStringList& arguments, const QByteArray& typed) const
+{
+    const QString command = "stty cols 60 rows 24; exec " STEMWRIGHT_CLI " '" + arguments.join("' '") + u'\'';
+    return runProgram("script", {"-qec", command, "/dev/null"}, typed, {});
+}
+
+Outcome CliWorld::runProgram(const QString& name, const QStringList& arguments, const QByteArray& typed,
+                             const Variables& variables) const
 {
     QProcessEnvironment environment = m_environment;
     for (auto variable = variables.begin(); variable != variables.end(); ++variable) {
@@ -27,8 +39,9 @@ Outcome CliWorld::run(const QStringList& arguments, const Variables& variables) 
     QProcess program;
     program.setWorkingDirectory(m_folder.path());
     program.setProcessEnvironment(environment);
-    program.setStandardInputFile(QProcess::nullDevice());
-    program.start(QStringLiteral(STEMWRIGHT_CLI), arguments);
+    program.start(name, arguments);
+    program.write(typed);
+    program.closeWriteChannel();
     const bool ended = program.waitForFinished(60'000) && program.exitStatus() == QProcess::NormalExit;
     return {ended ? std::optional(program.exitCode()) : std::nullopt,
             QString::fromUtf8(program.readAllStandardOutput()), QString::fromUtf8(program.readAllStandardError())};

@@ -35,6 +35,14 @@ public:
     /// Runs the program in the folder with nobody at the keyboard, and with further environment variables.
     Outcome run(const QStringList& arguments, const Variables& variables = {}) const;
 
+    /// Runs the program on a terminal of its own, with a user who types all of `typed` beforehand and then the key for
+    /// the end of input. What the terminal showed stands in the outcome's output, with the typed text as it is echoed.
+    Outcome runOnTerminal(const QStringList& arguments, const QByteArray& typed = {}) const;
+
+    /// Runs any program in the folder.
+    Outcome runProgram(const QString& name, const QStringList& arguments, const QByteArray& typed = {},
+                       const Variables& variables = {}) const;
+
     QString path(const QString& name) const { return m_folder.filePath(name); }
 
     /// Writes a file into the folder and returns its path.

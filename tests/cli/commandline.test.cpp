@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/version.h"
 #include "cli/cliworld.h"
+#include "support/testworld.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonArray>
@@ -16,9 +17,9 @@ using namespace stemwright::test;
 namespace
 {
 
-QStringList Words(const char* text)
+QStringList Words(const QString& text)
 {
-    return QString::fromUtf8(text).split(u' ', Qt::SkipEmptyParts);
+    return text.split(u' ', Qt::SkipEmptyParts);
 }
 
 } // namespace
@@ -26,61 +27,33 @@ QStringList Words(const char* text)
 TEST(CommandLine, EndsWithTheStatusThatSaysHowItWent)
 {
     CliWorld world;
-    world.writeTree(QStringLiteral("tree.ged"));
-    world.write(QStringLiteral("text.kvf"), "This is not a family file.");
+    world.writeTree("tree.ged");
+    world.write("text.kvf", "This is not a family file.");
 
-    const std::tuple<const char*, int, const char*> cases[] = {
-        {"", 2, "A subcommand is required"},
-        {"nothing", 2, "subcommand"},
-        {"--yes --no new f.kvf", 2, "--no"},
-        {"new", 2, "FILE"},
-        {"new f.kvf g.kvf", 2, "g.kvf"},
-        {"new --colour f.kvf", 2, "--colour"},
-        {"publish f.kvf --head nobody", 2, "nobody"},
-        {"new f.kvf", 0, ""},
-        {"--quiet new g.kvf", 0, ""},
-        {"open f.kvf", 0, ""},
-        {"--quiet --yes import f.kvf tree.ged", 0, ""},
-        {"--yes import f.kvf tree.ged", 0, ""},
-        {"--quiet check f.kvf", 0, ""},
-        {"check f.kvf", 0, ""},
-        {"--quiet save-as f.kvf copy.kvf", 0, ""},
-        {"open none.kvf", 1, "none.kvf"},
-        {"check text.kvf", 1, "text.kvf"},
-        {"import f.kvf none.ged", 1, "none.ged"},
-        {"new none/f.kvf", 1, "none/f.kvf"},
-        {"publish f.kvf --setup None", 1, "None"},
-        {"publish f.kvf", 1, "--head"},
-    };
-
-    for (const auto& [arguments, status, saying] : cases) {
-        SCOPED_TRACE(arguments);
-        const Outcome outcome = world.run(Words(arguments));
-        EXPECT_EQ(outcome.status, status) << outcome;
-        EXPECT_TRUE(outcome.errors.contains(QLatin1String(saying))) << outcome;
-        EXPECT_TRUE(status == 0 || outcome.output.isEmpty()) << outcome;
-        if (Words(arguments).value(0) == u"--quiet") {
-            EXPECT_EQ(outcome.output + outcome.errors, QString());
-        }
+    for (const QStringList& row : TestTable("cli/statuses.txt")) {
+        SCOPED_TRACE(row[0].toStdString());
+        const Outcome outcome = world.run(Words(row[0]));
+        EXPECT_EQ(outcome.status, row[1].toInt()) << outcome;
+        EXPECT_TRUE(outcome.errors.contains(row[2])) << outcome;
+        EXPECT_TRUE(outcome.status == 0 || outcome.output.isEmpty()) << outcome;
+        EXPECT_TRUE(!row[0].startsWith("--quiet") || (outcome.output + outcome.errors).isEmpty()) << outcome;
     }
-    EXPECT_EQ(world.run({QStringLiteral("--version")}).output,
-              QStringLiteral("stemwright-cli %1\n").arg(QLatin1String(versionText)));
+    EXPECT_EQ(world.run({"--version"}).output, QString("stemwright-cli %1\n").arg(versionText));
 }
 
 TEST(CommandLine, TakesPathsOfEveryKind)
 {
     CliWorld world;
-    const QString tree = world.writeTree(QStringLiteral("Дерево жизни \"1\".ged"));
+    const QString tree = world.writeTree("Дерево жизни \"1\".ged");
     for (const char* name : {"with blanks.kvf", "Семья.kvf", "家族 'x'.kvf", "100% & more;.kvf"}) {
-        const QString file = world.path(QString::fromUtf8(name));
-        EXPECT_EQ(world.run({QStringLiteral("new"), file}).status, 0) << name;
-        const Outcome imported = world.run({QStringLiteral("--yes"), QStringLiteral("import"), file, tree});
+        const QString file = world.path(name);
+        EXPECT_EQ(world.run({"new", file}).status, 0) << name;
+        const Outcome imported = world.run({"--yes", "import", file, tree});
         EXPECT_EQ(imported.status, 0) << name << '\n' << imported;
-        const QString site = file + QStringLiteral(" site/пути");
-        const Outcome published =
-            world.run({QStringLiteral("--yes"), QStringLiteral("publish"), file, QStringLiteral("--output"), site});
-        EXPECT_EQ(published.output, site + QStringLiteral("/index.html\n")) << name << '\n' << published;
-        EXPECT_TRUE(QFileInfo::exists(site + QStringLiteral("/index.html"))) << name;
+        const QString site = file + " site/пути";
+        const Outcome published = world.run({"--yes", "publish", file, "--output", site});
+        EXPECT_EQ(published.output, site + "/index.html\n") << name << '\n' << published;
+        EXPECT_TRUE(QFileInfo::exists(site + "/index.html")) << name;
     }
 }
 
@@ -89,12 +62,12 @@ TEST(CommandLine, WorksWhereTheSystemNamesNoEncoding)
     CliWorld world;
     CliWorld::Variables none;
     for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
-        none.insert(QLatin1String(variable), {});
+        none.insert(variable, {});
     }
-    const Outcome outcome = world.run({QStringLiteral("new"), world.path(QStringLiteral("Семья.kvf"))}, none);
+    const Outcome outcome = world.run({"new", world.path("Семья.kvf")}, none);
     EXPECT_EQ(outcome.status, 0) << outcome;
-    EXPECT_FALSE(outcome.errors.contains(QStringLiteral("locale"))) << outcome;
-    EXPECT_TRUE(QFileInfo::exists(world.path(QStringLiteral("Семья.kvf"))));
+    EXPECT_FALSE(outcome.errors.contains("locale")) << outcome;
+    EXPECT_TRUE(QFileInfo::exists(world.path("Семья.kvf")));
 }
 
 TEST(CommandLine, PrintsListsAsJson)
@@ -103,7 +76,7 @@ TEST(CommandLine, PrintsListsAsJson)
     ASSERT_EQ(world.run(Words("new f.kvf")).status, 0);
     for (const char* arguments :
          {"setup list f.kvf", "setup tree f.kvf Default list", "setup items f.kvf Default list"}) {
-        const Outcome outcome = world.run(QStringList{QStringLiteral("--json")} + Words(arguments));
+        const Outcome outcome = world.run(QStringList{"--json"} + Words(arguments));
         const QJsonArray rows = QJsonDocument::fromJson(outcome.output.toUtf8()).array();
         ASSERT_FALSE(rows.isEmpty()) << arguments << '\n' << outcome;
         EXPECT_FALSE(rows.first().toObject().isEmpty()) << arguments;
@@ -115,11 +88,7 @@ TEST(CommandLine, NoticesThatItsOutputCannotBeWritten)
 {
     CliWorld world;
     ASSERT_EQ(world.run(Words("new f.kvf")).status, 0);
-    QProcess program;
-    program.setWorkingDirectory(world.path({}));
-    program.setProcessEnvironment(world.environment());
-    program.setStandardOutputFile(QStringLiteral("/dev/full"));
-    program.start(QStringLiteral(STEMWRIGHT_CLI), Words("setup list f.kvf"));
-    ASSERT_TRUE(program.waitForFinished());
-    EXPECT_EQ(program.exitCode(), 1);
+    const QString list = STEMWRIGHT_CLI " setup list f.kvf >";
+    EXPECT_EQ(world.runProgram("sh", {"-c", list + "/dev/null"}).status, 0);
+    EXPECT_EQ(world.runProgram("sh", {"-c", list + "/dev/full"}).status, 1);
 }

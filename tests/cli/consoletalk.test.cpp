@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/files.h"
 #include "cli/cliworld.h"
-#include "cli/terminal.h"
+#include "support/testworld.h"
 
 #include <gtest/gtest.h>
 
@@ -16,12 +16,12 @@ namespace
 class ConsoleTalkTest : public testing::Test
 {
 protected:
-    void SetUp() override { world.write(QStringLiteral("old.kvf"), "old"); }
+    void SetUp() override { world.write("old.kvf", "old"); }
 
-    bool wasReplaced() const { return ReadWholeFile(world.path(QStringLiteral("old.kvf"))) != "old"; }
+    bool wasReplaced() const { return ReadWholeFile(world.path("old.kvf")) != "old"; }
 
     CliWorld world;
-    const QStringList create = {QStringLiteral("new"), world.path(QStringLiteral("old.kvf"))};
+    const QStringList create = {"new", world.path("old.kvf")};
 };
 
 } // namespace
@@ -29,17 +29,18 @@ protected:
 TEST_F(ConsoleTalkTest, TakesTheAnswerThatIsTyped)
 {
     const std::tuple<QByteArray, bool, int> cases[] = {
-        {"n\n", false, 1},          {"\n", false, 1},       {endOfInput, false, 1},      {" NO \n", false, 1},
-        {"perhaps\nn\n", false, 2}, {"yess\n\n", false, 2}, {"perhaps\nYES\n", true, 2}, {"y\n", true, 1},
+        {"n\n", false, 1},           {"\n", false, 1},           {"", false, 1},
+        {" NO \n", false, 1},        {"perhaps\nn\n", false, 2}, {"yess\n\n", false, 2},
+        {"perhaps\nYES\n", true, 2}, {"y\n", true, 1},
     };
 
     for (const auto& [typed, replaced, questions] : cases) {
         SCOPED_TRACE(typed.toStdString());
         SetUp();
-        const Outcome outcome = RunOnTerminal(world, create, typed);
+        const Outcome outcome = world.runOnTerminal(create, typed);
         EXPECT_EQ(outcome.status, replaced ? 0 : 1) << outcome;
-        EXPECT_EQ(outcome.output.count(QStringLiteral("Yes or No? [No]")), questions) << outcome;
-        EXPECT_EQ(outcome.output.count(QStringLiteral("Do you want to replace it?")), 1) << outcome;
+        EXPECT_EQ(outcome.output.count("Yes or No? [No]"), questions) << outcome;
+        EXPECT_EQ(outcome.output.count("Do you want to replace it?"), 1) << outcome;
         EXPECT_EQ(wasReplaced(), replaced);
     }
 }
@@ -47,18 +48,15 @@ TEST_F(ConsoleTalkTest, TakesTheAnswerThatIsTyped)
 TEST_F(ConsoleTalkTest, TakesTheAnswerGivenBeforehandOrThePreset)
 {
     const std::tuple<QStringList, bool, bool> cases[] = {
-        {{}, false, true},
-        {{QStringLiteral("--quiet")}, false, true},
-        {{QStringLiteral("--no")}, false, true},
-        {{QStringLiteral("--yes")}, true, true},
-        {{QStringLiteral("--yes"), QStringLiteral("--quiet")}, true, false},
+        {{}, false, true},       {{"--quiet"}, false, true},          {{"--no"}, false, true},
+        {{"--yes"}, true, true}, {{"--yes", "--quiet"}, true, false},
     };
     for (const auto& [options, replaced, shown] : cases) {
         SCOPED_TRACE(options.join(u' ').toStdString());
         SetUp();
         const Outcome outcome = world.run(options + create);
         EXPECT_EQ(outcome.status, replaced ? 0 : 1) << outcome;
-        EXPECT_EQ(outcome.errors.contains(QStringLiteral("Do you want to replace it?")), shown) << outcome;
+        EXPECT_EQ(outcome.errors.contains("Do you want to replace it?"), shown) << outcome;
         EXPECT_EQ(wasReplaced(), replaced);
         EXPECT_EQ(outcome.output, QString());
     }
@@ -66,13 +64,13 @@ TEST_F(ConsoleTalkTest, TakesTheAnswerGivenBeforehandOrThePreset)
 
 TEST_F(ConsoleTalkTest, ShowsProgressOnTerminalsOnly)
 {
-    const QString tree = world.writeTree(QStringLiteral("tree.ged"));
-    const QString file = world.path(QStringLiteral("new.kvf"));
-    const QString goBack = QStringLiteral("\r\x1b[K");
-    ASSERT_EQ(world.run({QStringLiteral("new"), file}).status, 0);
-    const QStringList import = {QStringLiteral("--yes"), QStringLiteral("import"), file, tree};
+    const QString tree = world.writeTree("tree.ged");
+    const QString file = world.path("new.kvf");
+    const QString goBack = "\r\x1b[K";
+    ASSERT_EQ(world.run({"new", file}).status, 0);
+    const QStringList import = {"--yes", "import", file, tree};
 
-    const Outcome shown = RunOnTerminal(world, import, {});
+    const Outcome shown = world.runOnTerminal(import);
     EXPECT_EQ(shown.status, 0) << shown;
     EXPECT_TRUE(shown.output.contains(goBack)) << shown;
     const qsizetype lastPaint = shown.output.lastIndexOf(u'%');
@@ -80,6 +78,6 @@ TEST_F(ConsoleTalkTest, ShowsProgressOnTerminalsOnly)
 
     const Outcome redirected = world.run(import);
     EXPECT_FALSE(redirected.errors.contains(QChar(0x1b))) << redirected;
-    const Outcome quiet = RunOnTerminal(world, QStringList{QStringLiteral("--quiet")} + import, {});
+    const Outcome quiet = world.runOnTerminal(QStringList{"--quiet"} + import);
     EXPECT_FALSE(quiet.output.contains(QChar(0x1b))) << quiet;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "base/files.h"
 #include "cli/cliworld.h"
+#include "support/testworld.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QSet>
@@ -22,8 +23,8 @@ QStringList NamesBelow(const QString& help, const QString& heading)
     for (const QString& line : help.split(u'\n')) {
         if (!line.startsWith(u' ')) {
             inSection = line.startsWith(heading);
-        } else if (inSection && line.startsWith(QStringLiteral("  ")) && line[2] != u' ') {
-            names << line.trimmed().section(QRegularExpression(QStringLiteral("[ ,]")), 0, 0);
+        } else if (inSection && line.startsWith("  ") && line[2] != u' ') {
+            names << line.trimmed().section(QRegularExpression("[ ,]"), 0, 0);
         }
     }
     return names;
@@ -33,14 +34,14 @@ QStringList NamesBelow(const QString& help, const QString& heading)
 /// `name`, with words that stand for the arguments between.
 void CollectCommands(const CliWorld& world, const QStringList& typed, const QString& name, QSet<QString>& commands)
 {
-    const Outcome help = world.run(typed + QStringList{QStringLiteral("--help")});
-    EXPECT_EQ(help.status, 0) << name.toStdString() << '\n' << help;
-    EXPECT_TRUE(help.output.contains(QStringLiteral("Usage: stemwright-cli ") + name)) << help;
-    const QStringList below = NamesBelow(help.output, QStringLiteral("Subcommands:"));
+    const Outcome help = world.run(typed + QStringList{"--help"});
+    EXPECT_EQ(help.status, 0) << name << '\n' << help;
+    EXPECT_TRUE(help.output.contains("Usage: stemwright-cli " + name)) << help;
+    const QStringList below = NamesBelow(help.output, "Subcommands:");
     if (below.isEmpty()) {
         commands.insert(name);
     }
-    const QStringList arguments = NamesBelow(help.output, QStringLiteral("Positionals:"));
+    const QStringList arguments = NamesBelow(help.output, "Positionals:");
     for (const QString& word : below) {
         CollectCommands(world, typed + arguments + QStringList{word}, (name + u' ' + word).trimmed(), commands);
     }
@@ -55,10 +56,9 @@ TEST(ManualPage, DescribesExactlyTheCommandsThatExist)
     CollectCommands(world, {}, {}, existing);
 
     QSet<QString> described;
-    const QString manual = QString::fromUtf8(ReadWholeFile(QStringLiteral(STEMWRIGHT_MANUAL)));
-    const QRegularExpression command(QStringLiteral("^\\.TP\n\\.B ((?:[a-z\\\\-]+ ?)+)$"),
-                                     QRegularExpression::MultilineOption);
-    const QString commands = manual.section(QStringLiteral(".SH COMMANDS"), 1).section(QStringLiteral("\n.SH "), 0, 0);
+    const QString manual = QString::fromUtf8(ReadWholeFile(STEMWRIGHT_MANUAL));
+    const QRegularExpression command("^\\.TP\n\\.B ((?:[a-z\\\\-]+ ?)+)$", QRegularExpression::MultilineOption);
+    const QString commands = manual.section(".SH COMMANDS", 1).section("\n.SH ", 0, 0);
     for (auto found = command.globalMatch(commands); found.hasNext();) {
         described.insert(found.next().captured(1).trimmed().remove(u'\\'));
     }

@@ -21,9 +21,9 @@ class FaultsTest : public testing::Test
 protected:
     void SetUp() override
     {
-        const QString old = world.writeTree(QStringLiteral("old.ged"));
-        ASSERT_EQ(world.run({QStringLiteral("new"), file}).status, 0);
-        ASSERT_EQ(world.run({QStringLiteral("--yes"), QStringLiteral("import"), file, old}).status, 0);
+        const QString old = world.writeTree("old.ged");
+        ASSERT_EQ(world.run({"new", file}).status, 0);
+        ASSERT_EQ(world.run({"--yes", "import", file, old}).status, 0);
         ASSERT_EQ(world.run(publish).status, 0);
         before = Fingerprint(file);
         QByteArray people;
@@ -31,17 +31,17 @@ protected:
             people += QByteArrayLiteral("0 @I%@ INDI\n1 NAME Someone Called % /Stormcrow/\n1 BIRT\n2 PLAC Haven\n")
                           .replace('%', QByteArray::number(number));
         }
-        world.write(QStringLiteral("new.ged"), "0 HEAD\n1 CHAR UTF-8\n" + people + "0 TRLR\n");
+        world.write("new.ged", "0 HEAD\n1 CHAR UTF-8\n" + people + "0 TRLR\n");
     }
 
     /// Runs a command on a disk that has `fault` below `folder` after so many bytes.
     Outcome runOnFaultyDisk(const QString& fault, const QString& folder, qint64 after, const QStringList& arguments)
     {
-        CliWorld::Variables variables = {{QStringLiteral("LD_PRELOAD"), QStringLiteral(STEMWRIGHT_FAULTY_DISK)},
-                                         {QStringLiteral("FAULTY_DISK"), fault},
-                                         {QStringLiteral("FAULTY_DISK_FOLDER"), folder},
-                                         {QStringLiteral("FAULTY_DISK_AFTER"), QString::number(after)},
-                                         {QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0")}};
+        CliWorld::Variables variables = {{"LD_PRELOAD", STEMWRIGHT_FAULTY_DISK},
+                                         {"FAULTY_DISK", fault},
+                                         {"FAULTY_DISK_FOLDER", folder},
+                                         {"FAULTY_DISK_AFTER", QString::number(after)},
+                                         {"ASAN_OPTIONS", "verify_asan_link_order=0"}};
         return world.run(arguments, variables);
     }
 
@@ -50,12 +50,7 @@ protected:
     {
         EXPECT_EQ(outcome.status, 1) << outcome;
         EXPECT_TRUE(outcome.errors.contains(reason)) << outcome;
-        expectFileAsBefore();
-    }
-
-    void expectFileAsBefore()
-    {
-        const Outcome check = world.run({QStringLiteral("check"), file});
+        const Outcome check = world.run({"check", file});
         EXPECT_EQ(check.status, 0) << check;
         EXPECT_EQ(Fingerprint(file), before);
     }
@@ -63,12 +58,10 @@ protected:
     QStringList names() const { return QDir(world.path({})).entryList(QDir::Files); }
 
     CliWorld world;
-    const QString file = world.path(QStringLiteral("family.kvf"));
-    const QString site = world.path(QStringLiteral("site"));
-    const QStringList import = {QStringLiteral("--yes"), QStringLiteral("import"), file,
-                                world.path(QStringLiteral("new.ged"))};
-    const QStringList publish = {QStringLiteral("--yes"), QStringLiteral("publish"), file, QStringLiteral("--output"),
-                                 site};
+    const QString file = world.path("family.kvf");
+    const QString site = world.path("site");
+    const QStringList import = {"--yes", "import", file, world.path("new.ged")};
+    const QStringList publish = {"--yes", "publish", file, "--output", site};
     QString before;
 };
 
@@ -78,12 +71,12 @@ TEST_F(FaultsTest, AFullDiskLeavesTheOldTree)
 {
     int failed = 0;
     for (const qint64 kilobytes : {0, 1, 8, 64, 128, 200, 300, 400, 600}) {
-        const Outcome outcome = runOnFaultyDisk(QStringLiteral("full"), world.path({}), kilobytes * 1024, import);
+        const Outcome outcome = runOnFaultyDisk("full", world.path({}), kilobytes * 1024, import);
         if (outcome.status == 0) {
             break;
         }
         SCOPED_TRACE(kilobytes);
-        expectCleanFailure(outcome, QStringLiteral("full"));
+        expectCleanFailure(outcome, "full");
         ++failed;
     }
     EXPECT_GE(failed, 5);
@@ -91,17 +84,15 @@ TEST_F(FaultsTest, AFullDiskLeavesTheOldTree)
 
 TEST_F(FaultsTest, AFullDiskLeavesNoHalfFiles)
 {
-    const QString copy = world.path(QStringLiteral("copy.kvf"));
-    ASSERT_EQ(world.run({QStringLiteral("save-as"), file, copy}).status, 0);
+    const QString copy = world.path("copy.kvf");
+    ASSERT_EQ(world.run({"save-as", file, copy}).status, 0);
     const QStringList atFirst = names();
     for (const qint64 kilobytes : {0, 10, 60}) {
         SCOPED_TRACE(kilobytes);
-        expectCleanFailure(runOnFaultyDisk(QStringLiteral("full"), world.path({}), kilobytes * 1024,
-                                           {QStringLiteral("new"), world.path(QStringLiteral("fresh.kvf"))}),
-                           QStringLiteral("full"));
-        expectCleanFailure(runOnFaultyDisk(QStringLiteral("full"), world.path({}), kilobytes * 1024,
-                                           {QStringLiteral("--yes"), QStringLiteral("save-as"), file, copy}),
-                           QStringLiteral("full"));
+        expectCleanFailure(runOnFaultyDisk("full", world.path({}), kilobytes * 1024, {"new", world.path("fresh.kvf")}),
+                           "full");
+        expectCleanFailure(runOnFaultyDisk("full", world.path({}), kilobytes * 1024, {"--yes", "save-as", file, copy}),
+                           "full");
         EXPECT_EQ(Fingerprint(copy), before) << "the older copy stays";
         EXPECT_EQ(names(), atFirst);
     }
@@ -111,8 +102,7 @@ TEST_F(FaultsTest, AFullDiskEndsThePublication)
 {
     for (const qint64 kilobytes : {0, 5, 100}) {
         SCOPED_TRACE(kilobytes);
-        expectCleanFailure(runOnFaultyDisk(QStringLiteral("full"), site, kilobytes * 1024, publish),
-                           QStringLiteral("No space left on device"));
+        expectCleanFailure(runOnFaultyDisk("full", site, kilobytes * 1024, publish), "No space left on device");
     }
     EXPECT_EQ(world.run(publish).status, 0);
 }
@@ -121,11 +111,9 @@ TEST_F(FaultsTest, AReadOnlyFolderStaysAsItIs)
 {
     const QStringList atFirst = names();
     const QString folder = world.path({});
-    expectCleanFailure(runOnFaultyDisk(QStringLiteral("readonly"), folder, 0, import), QStringLiteral("family.kvf"));
-    expectCleanFailure(runOnFaultyDisk(QStringLiteral("readonly"), folder, 0,
-                                       {QStringLiteral("new"), world.path(QStringLiteral("fresh.kvf"))}),
-                       QStringLiteral("fresh.kvf"));
-    expectCleanFailure(runOnFaultyDisk(QStringLiteral("readonly"), site, 0, publish), site);
+    expectCleanFailure(runOnFaultyDisk("readonly", folder, 0, import), "family.kvf");
+    expectCleanFailure(runOnFaultyDisk("readonly", folder, 0, {"new", world.path("fresh.kvf")}), "fresh.kvf");
+    expectCleanFailure(runOnFaultyDisk("readonly", site, 0, publish), site);
     EXPECT_EQ(names(), atFirst);
 }
 
@@ -133,19 +121,16 @@ TEST_F(FaultsTest, AGedcomFileThatVanishesLeavesTheOldTree)
 {
     for (const qint64 bytes : {0, 1000, 100'000}) {
         SCOPED_TRACE(bytes);
-        expectCleanFailure(
-            runOnFaultyDisk(QStringLiteral("unreadable"), world.path(QStringLiteral("new.ged")), bytes, import),
-            QStringLiteral("Input/output error"));
+        expectCleanFailure(runOnFaultyDisk("unreadable", world.path("new.ged"), bytes, import), "Input/output error");
     }
 }
 
 TEST_F(FaultsTest, AnUnsuitableOutputFolderIsLeftAlone)
 {
-    const QString beside = world.write(QStringLiteral("beside.txt"), "mine");
-    for (const QString& output : {world.path({}), beside, file, QStringLiteral("/"), QDir::homePath()}) {
-        const Outcome outcome =
-            world.run({QStringLiteral("--yes"), QStringLiteral("publish"), file, QStringLiteral("--output"), output});
-        expectCleanFailure(outcome, QStringLiteral("Please choose"));
+    const QString beside = world.write("beside.txt", "mine");
+    for (const QString& output : QStringList{world.path({}), beside, file, "/", QDir::homePath()}) {
+        const Outcome outcome = world.run({"--yes", "publish", file, "--output", output});
+        expectCleanFailure(outcome, "Please choose");
     }
     EXPECT_EQ(ReadWholeFile(beside), "mine");
 }

@@ -42,7 +42,7 @@ QString Fingerprint(const QString& path)
     while (tables.executeStep()) {
         rows += AddRows(hash, database, "SELECT * FROM \"" + tables.getColumn(0).getString() + "\" ORDER BY rowid");
     }
-    return QStringLiteral("%1 rows, %2").arg(rows).arg(QString::fromLatin1(hash.result().toHex().left(16)));
+    return QString("%1 rows, %2").arg(rows).arg(QString::fromLatin1(hash.result().toHex().left(16)));
 }
 
 } // namespace stemwright::test

@@ -28,9 +28,9 @@ protected:
     /// The GenInfo row and the names of the individuals.
     QString state()
     {
-        const QString state = QStringLiteral(
-            "SELECT GEDCOMFile || '|' || ImportDate || '|' || (SELECT group_concat(GivenName) FROM Indi) FROM GenInfo");
-        return Column(file.connection(), state).value(0).section(u'/', -1);
+        const QString state =
+            "SELECT GEDCOMFile || '|' || ImportDate || '|' || (SELECT group_concat(GivenName) FROM Indi) FROM GenInfo";
+        return Rows(file.connection(), state).value(0).section(u'/', -1);
     }
 
     bool hasBackup() const { return QFileInfo::exists(BackupPath(file.path())); }
@@ -44,64 +44,63 @@ protected:
 
 TEST_F(ImportCommand, FirstImportMakesNoBackupAndAsksNothing)
 {
-    EXPECT_TRUE(import(QStringLiteral("a.ged"), "1 NAME Ann\n"));
-    EXPECT_EQ(state(), QStringLiteral("a.ged|2026-03-12T12:00:00|Ann"));
+    EXPECT_TRUE(import("a.ged", "1 NAME Ann\n"));
+    EXPECT_EQ(state(), "a.ged|2026-03-12T12:00:00|Ann");
     EXPECT_FALSE(hasBackup());
-    EXPECT_EQ(world.settings.value(setting::gedcom, setting::gedcomPath),
-              QFileInfo(world.path(QStringLiteral("a.ged"))).path());
-    EXPECT_EQ(world.talk.captions(), QStringList{QStringLiteral("Importing GEDCOM file")});
+    EXPECT_EQ(world.settings.value(setting::gedcom, setting::gedcomPath), QFileInfo(world.path("a.ged")).path());
+    EXPECT_EQ(world.talk.captions(), QStringList{"Importing GEDCOM file"});
 }
 
 TEST_F(ImportCommand, SecondImportOfTheSameFileBacksUpAndAsksNothing)
 {
-    ASSERT_TRUE(import(QStringLiteral("a.ged"), "1 NAME Ann\n"));
-    file.connection().execute(QStringLiteral("INSERT INTO Pic2Person (PicId, PersId) VALUES (1, 1)"));
-    world.talk.expect(QStringLiteral("Creating Backup Family File"));
-    EXPECT_TRUE(import(QStringLiteral("a.ged"), "1 NAME Bea\n"));
-    EXPECT_EQ(state(), QStringLiteral("a.ged|2026-03-12T12:00:00|Bea"));
-    EXPECT_EQ(file.connection().countRows(QStringLiteral("Pic2Person")), 1);
+    ASSERT_TRUE(import("a.ged", "1 NAME Ann\n"));
+    file.connection().execute("INSERT INTO Pic2Person (PicId, PersId) VALUES (1, 1)");
+    world.talk.expect("Creating Backup Family File");
+    EXPECT_TRUE(import("a.ged", "1 NAME Bea\n"));
+    EXPECT_EQ(state(), "a.ged|2026-03-12T12:00:00|Bea");
+    EXPECT_EQ(file.connection().countRows("Pic2Person"), 1);
     FamilyFile backup;
     ASSERT_TRUE(OpenFamilyFile(backup, BackupPath(file.path()), world.environment));
-    EXPECT_TRUE(DumpTree(backup.connection()).contains(QStringLiteral("GivenName=[Ann]")));
+    EXPECT_TRUE(DumpTree(backup.connection()).contains("GivenName=[Ann]"));
 }
 
 TEST_F(ImportCommand, AnotherFileIsAskedAbout)
 {
-    ASSERT_TRUE(import(QStringLiteral("a.ged"), "1 NAME Ann\n"));
+    ASSERT_TRUE(import("a.ged", "1 NAME Ann\n"));
     const QString before = state();
     for (const Button answer : {Button::No, Button::Yes}) {
-        world.talk.expect(QStringLiteral("Creating Backup Family File"));
-        world.talk.expect(QStringLiteral("Potential GEDCOM File Conflict"), answer);
-        EXPECT_EQ(import(QStringLiteral("b.ged"), "1 NAME Bea\n"), answer == Button::Yes);
+        world.talk.expect("Creating Backup Family File");
+        world.talk.expect("Potential GEDCOM File Conflict", answer);
+        EXPECT_EQ(import("b.ged", "1 NAME Bea\n"), answer == Button::Yes);
         EXPECT_EQ(state() == before, answer == Button::No);
         EXPECT_TRUE(hasBackup());
     }
     const Message& conflict = world.talk.shown().back();
     EXPECT_EQ(conflict.preset, Button::No);
-    EXPECT_TRUE(conflict.text.contains(QStringLiteral("b.ged\nThe current family file already contains \n")));
-    EXPECT_TRUE(conflict.text.contains(QStringLiteral("a.ged.\nIf the new GEDCOM file")));
+    EXPECT_TRUE(conflict.text.contains("b.ged\nThe current family file already contains \n"));
+    EXPECT_TRUE(conflict.text.contains("a.ged.\nIf the new GEDCOM file"));
 }
 
 TEST_F(ImportCommand, AFailureLeavesTreeAndNoteAsTheyWere)
 {
-    ASSERT_TRUE(import(QStringLiteral("a.ged"), "1 NAME Ann\n"));
+    ASSERT_TRUE(import("a.ged", "1 NAME Ann\n"));
     const QString before = state();
-    world.talk.expect(QStringLiteral("Creating Backup Family File"));
-    world.talk.expect(QStringLiteral("Potential GEDCOM File Conflict"), Button::Yes);
-    world.talk.expect(QStringLiteral("The GEDCOM file has more kinds of events"));
-    EXPECT_FALSE(import(QStringLiteral("b.ged"), "1 NAME Bea\n1 _FA77\n2 DATE 1900\n"));
+    world.talk.expect("Creating Backup Family File");
+    world.talk.expect("Potential GEDCOM File Conflict", Button::Yes);
+    world.talk.expect("The GEDCOM file has more kinds of events");
+    EXPECT_FALSE(import("b.ged", "1 NAME Bea\n1 _FA77\n2 DATE 1900\n"));
     EXPECT_EQ(state(), before);
-    world.talk.expect(QStringLiteral("Cannot open the GEDCOM file"));
-    EXPECT_FALSE(ImportGedcomFile(file, world.path(QStringLiteral("none.ged")), world.environment, report));
+    world.talk.expect("Cannot open the GEDCOM file");
+    EXPECT_FALSE(ImportGedcomFile(file, world.path("none.ged"), world.environment, report));
     EXPECT_EQ(state(), before);
 }
 
 TEST_F(ImportCommand, ADuplicateKeepsWhatWasReadAndTheNote)
 {
-    world.talk.expect(QStringLiteral("Your GEDCOM file has a duplicate entry for individual ID # 1"));
-    EXPECT_FALSE(import(QStringLiteral("a.ged"), "1 NAME Ann\n0 @I1@ INDI\n1 NAME Bea\n"));
+    world.talk.expect("Your GEDCOM file has a duplicate entry for individual ID # 1");
+    EXPECT_FALSE(import("a.ged", "1 NAME Ann\n0 @I1@ INDI\n1 NAME Bea\n"));
     EXPECT_EQ(report.outcome, ImportOutcome::StoppedAtDuplicate);
-    EXPECT_EQ(state(), QStringLiteral("a.ged|2026-03-12T12:00:00|Ann"));
+    EXPECT_EQ(state(), "a.ged|2026-03-12T12:00:00|Ann");
 }
 
 } // namespace stemwright::test

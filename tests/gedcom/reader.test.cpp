@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "gedcom/reader.h"
 
+#include "support/testworld.h"
+
 #include <QtCore/QBuffer>
 
 #include <gtest/gtest.h>
@@ -28,33 +30,17 @@ void ForEachLine(QByteArray text, const std::function<void(const GedcomLine&)>& 
 
 TEST(Reader, SplitsLines)
 {
-    const std::vector<std::tuple<const char*, char, int, const char*, const char*>> cases = {
-        {"0 @I25@ INDI", '0', 25, "INDI", ""},
-        {"1 NAME John /Smith/ Jr", '1', -1, "NAME", "John /Smith/ Jr"},
-        {"2 PLAC Springfield,,Ohio,", '2', -1, "PLAC", "Springfield,Ohio"},
-        {"1 HUSB @I3@", '1', -1, "HUSB", "@I3@"},
-        {"12 CONT x", '1', -1, "2", "CONT x"},
-        {"0 @N1@ NOTE of,,two,", '0', -1, "@N1@", "NOTE of,two"},
-        {"0 @I5@ NOTE  of two,,", '0', 5, "NOTE", "of two,"},
-        {"  1   NAME   spaced out  ", '1', -1, "NAME", "spaced out"},
-        {"\t2\tDATE\t1900\t", '2', -1, "DATE", "1900"},
-        {" \t ", '\0', -1, "", ""},
-        {"0", '0', 0, "", ""},
-        {"0 @", '0', 0, "@", ""},
-        {"0 @ INDI", '0', -1, "@", "INDI"},
-        {"1NAME x", '1', -1, "NAME", "x"},
-        {"2 PLAC a,,,,,,,,b", '2', -1, "PLAC", "a,b"},
-        {"2 PLAC a,,,,,,,,,b", '2', -1, "PLAC", "a,,b"},
-        {"2 PLAC ,", '2', -1, "PLAC", ""},
-    };
-    for (const auto& [text, level, xrefId, tag, value] : cases) {
-        const auto expected = std::tuple(level, xrefId, tag, value);
+    for (const QStringList& row : TestTable("gedcom/lines.txt")) {
         int count = 0;
-        ForEachLine(QByteArray(text) + '\n', [&, text = text](const GedcomLine& line) {
+        ForEachLine(row[0].toUtf8() + '\n', [&](const GedcomLine& line) {
             ++count;
-            EXPECT_EQ(std::tie(line.Level, line.XrefId, line.Tag, line.Value), expected) << text;
+            const QString level = line.Level == '\0' ? QString("") : QString(line.Level);
+            EXPECT_EQ(level, row[1]) << row[0];
+            EXPECT_EQ(line.XrefId, row[2].toInt()) << row[0];
+            EXPECT_EQ(line.Tag, row[3].toStdString()) << row[0];
+            EXPECT_EQ(line.Value, row[4].toStdString()) << row[0];
         });
-        EXPECT_EQ(count, 1) << text;
+        EXPECT_EQ(count, 1) << row[0];
     }
 }
 
@@ -122,7 +108,7 @@ TEST(Reader, SplitsNamesAtTheirSlashes)
 
 TEST(Reader, KnowsStandardTagsByTheirLabels)
 {
-    const std::vector<std::pair<const char*, const char*>> cases = {
+    const std::pair<const char*, const char*> cases[] = {
         {"Burial", "BURI"},     {"education 1900", "EDUC"}, {"Residence", "RESI"}, {"MIGR", "MIGR"},
         {"occupation", "OCCU"}, {"My burial", ""},          {"Bur", ""},           {"", ""}};
     for (const auto& [label, tag] : cases) {

@@ -13,10 +13,10 @@ QString DumpRow(const Statement& row)
     QString line;
     for (int column = 0; column < row.columnCount(); ++column) {
         if (!row.isNull(column)) {
-            line += QStringLiteral(" %1=[%2]").arg(row.columnName(column), row.text(column));
+            line += QString(" %1=[%2]").arg(row.columnName(column), row.text(column));
         }
     }
-    return line.replace(QStringLiteral("\r\n"), QStringLiteral("\\r\\n")) + u'\n';
+    return line.replace("\r\n", "\\r\\n") + u'\n';
 }
 
 } // namespace
@@ -25,9 +25,8 @@ QString DumpTree(Connection& connection)
 {
     QString dump;
     for (const char* table : {"Indi", "Fam", "Fam2Child", "Spouse2Fam", "SchemaIndi", "SchemaFam"}) {
-        dump += QString::fromLatin1(table) + u'\n';
-        Statement rows =
-            connection.prepare(QStringLiteral("SELECT * FROM %1 ORDER BY rowid").arg(QString::fromLatin1(table)));
+        dump += QString(table) + u'\n';
+        Statement rows = connection.prepare(QString("SELECT * FROM %1 ORDER BY rowid").arg(table));
         while (rows.step()) {
             dump += DumpRow(rows);
         }

@@ -17,7 +17,7 @@ QString DumpTree(Connection& connection);
 struct ImportedTree {
     explicit ImportedTree(QByteArray gedcom);
 
-    Connection connection{QStringLiteral(":memory:"), OpenMode::CreateNew};
+    Connection connection{":memory:", OpenMode::CreateNew};
     ScriptedTalk talk;
     ImportReport report;
     std::optional<Message> duplicate;

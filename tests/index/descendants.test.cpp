@@ -65,7 +65,7 @@ TEST_F(DescendantsTest, EqualsGoByNumberAndCirclesEnd)
     EXPECT_EQ(best(), 0);
     build.family(1, 3, 2, {1, 4});
     EXPECT_EQ(best(), 2);
-    build.run(QStringLiteral("DELETE FROM Spouse2Fam; DELETE FROM Fam2Child; DELETE FROM Fam"));
+    build.run("DELETE FROM Spouse2Fam; DELETE FROM Fam2Child; DELETE FROM Fam");
     build.family(1, 4, 0, {3}).family(2, 3, 0, {4});
     EXPECT_EQ(best(), 3);
 }

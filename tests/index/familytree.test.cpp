@@ -45,7 +45,7 @@ TEST_F(FamilyTreeTest, LinksKeepTheOrderOfTheirRows)
 {
     build.person(30, "C", "").person(10, "A", "").person(20, "B", "").person(40, "D", "");
     build.family(7, 10, 20, {40, 30}).family(5, 10, 0, {});
-    build.run(QStringLiteral("UPDATE Spouse2Fam SET rowid = rowid + 10 WHERE FamId = 7"));
+    build.run("UPDATE Spouse2Fam SET rowid = rowid + 10 WHERE FamId = 7");
     load();
     EXPECT_THAT(idsOf(tree.children(family(7))), ElementsAre(40, 30));
     EXPECT_THAT(idsOf(tree.childrenByParents(family(7))), ElementsAre(30, 40));
@@ -61,7 +61,7 @@ TEST_F(FamilyTreeTest, LinksKeepTheOrderOfTheirRows)
 TEST_F(FamilyTreeTest, LinksToMissingRecordsAreKeptForFamiliesAndDroppedForIndividuals)
 {
     build.person(1, "A", "").family(3, 1, 99, {98}).spouse(1, 77).spouse(97, 3);
-    build.run(QStringLiteral("UPDATE Indi SET FAMC = 66 WHERE Id = 1"));
+    build.run("UPDATE Indi SET FAMC = 66 WHERE Id = 1");
     load();
     ASSERT_EQ(tree.spouseFamilies(individual(1)).size(), 2U);
     const TreePosition missing = tree.spouseFamilies(individual(1))[1];

@@ -12,7 +12,7 @@ import { fileURLToPath } from "node:url";
 const program = process.env.STEMWRIGHT_CLI ?? fileURLToPath(new URL("../../build/release/bin/stemwright-cli", import.meta.url));
 const data = fileURLToPath(new URL("../data/site/", import.meta.url));
 
-// Imports `gedcom` of tests/data/site into a new family file, changes its setup Default by `settings` (column: value), gives it
+// Imports `gedcom`, a file of tests/data/site or a whole GEDCOM text, into a new family file, changes its setup Default by `settings` (column: value), gives it
 // `trees` ({head, display}) and further `items` (a name, or a name and options), and publishes it. Returns the folder of the site, which stands in a folder of
 // its own together with the family file.
 export function publish({ gedcom, settings = {}, trees, items = ["Birth", "Marriage", "Death"] }) {
@@ -23,7 +23,9 @@ export function publish({ gedcom, settings = {}, trees, items = ["Birth", "Marri
         encoding: "utf8", stdio: ["ignore", "pipe", "pipe"], env: { ...process.env, XDG_CONFIG_HOME: path.join(folder, "settings") },
     });
     run("new", file);
-    run("import", file, path.join(data, gedcom));
+    const text = gedcom.includes("\n") ? gedcom : fs.readFileSync(path.join(data, gedcom));
+    fs.writeFileSync(path.join(folder, "tree.ged"), text);
+    run("import", file, path.join(folder, "tree.ged"));
     run("setup", "set", file, "Default", ...Object.entries(settings).map(([column, value]) => `${column}=${value}`));
     for (const { head, display } of trees) {
         run("setup", "tree", file, "Default", "add", "--head", String(head), "--display", display);

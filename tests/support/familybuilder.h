@@ -20,10 +20,7 @@ public:
     using Values = std::initializer_list<std::pair<const char*, const char*>>;
 
     /// From now on the file is not safe from power cuts, which tests need not be.
-    explicit FamilyBuilder(Connection& connection) : m_connection(connection)
-    {
-        run(QStringLiteral("PRAGMA synchronous=OFF"));
-    }
+    explicit FamilyBuilder(Connection& connection) : m_connection(connection) { run("PRAGMA synchronous=OFF"); }
 
     /// Texts are UTF-8. An Indi row with this id, given name and surname.
     FamilyBuilder& person(int id, const char* givenName, const char* surname, Values others = {});

@@ -24,12 +24,12 @@ protected:
         for (const char* folder : {"home/site", "files", "app/html", "app/fampages/Default", "backups", "out"}) {
             QDir().mkpath(path(folder));
         }
-        world.write(QStringLiteral("files/Family.kvf"), "family");
-        world.write(QStringLiteral("backups/Old.ffb"), "backup");
-        world.write(QStringLiteral("plain"), "file");
+        world.write("files/Family.kvf", "family");
+        world.write("backups/Old.ffb", "backup");
+        world.write("plain", "file");
     }
 
-    QString path(const char* name) const { return world.path(QString::fromLatin1(name)); }
+    QString path(const char* name) const { return world.path(name); }
 
     bool prepare(const QString& folder)
     {
@@ -48,15 +48,26 @@ TEST_F(OutputFolderTest, RefusesFoldersThatAreNoPlaceForASite)
 {
     QFile::link(path("files"), path("linked"));
     const QString holder = QFileInfo(path("x")).path();
-    for (const QString& folder :
-         {QString(), QStringLiteral("/"), QStringLiteral("//tmp/.."), path("home"), path("home/site/.."), holder,
-          path("files"), path("files/"), path("linked"), path("backups"), path("app"), path("app/html"),
-          path("app/new"), path("plain"), path("plain/below")}) {
+    for (const QString& folder : QStringList{{},
+                                             "/",
+                                             "//tmp/..",
+                                             path("home"),
+                                             path("home/site/.."),
+                                             holder,
+                                             path("files"),
+                                             path("files/"),
+                                             path("linked"),
+                                             path("backups"),
+                                             path("app"),
+                                             path("app/html"),
+                                             path("app/new"),
+                                             path("plain"),
+                                             path("plain/below")}) {
         if (folder == path("plain/below")) {
-            world.talk.expect(QStringLiteral("The output folder")).expect(QStringLiteral("Cannot create folder"));
+            world.talk.expect("The output folder").expect("Cannot create folder");
             EXPECT_FALSE(prepare(folder));
         } else {
-            EXPECT_THROW(prepare(folder), Error) << folder.toStdString();
+            EXPECT_THROW(prepare(folder), Error) << folder;
         }
     }
     EXPECT_TRUE(exists("files/Family.kvf"));
@@ -68,26 +79,26 @@ TEST_F(OutputFolderTest, AcceptsFoldersOfTheirOwn)
     for (const char* folder : {"home/site", "app/fampages/Default", "out"}) {
         EXPECT_TRUE(prepare(path(folder))) << folder;
     }
-    world.talk.expect(QStringLiteral("The output folder"), Button::Cancel);
+    world.talk.expect("The output folder", Button::Cancel);
     EXPECT_FALSE(prepare(path("files/new/site")));
-    world.talk.expect(QStringLiteral("The output folder"));
+    world.talk.expect("The output folder");
     EXPECT_TRUE(prepare(path("files/new/site")));
     EXPECT_TRUE(exists("files/new/site"));
 }
 
 TEST_F(OutputFolderTest, DeletesItsFilesOnlyAndOnlyAfterAsking)
 {
-    world.write(QStringLiteral("out/index.html"), "old");
-    world.write(QStringLiteral("out/.htaccess"), "kept");
+    world.write("out/index.html", "old");
+    world.write("out/.htaccess", "kept");
     QDir().mkpath(path("out/graphics"));
-    world.write(QStringLiteral("out/graphics/a.gif"), "kept");
+    world.write("out/graphics/a.gif", "kept");
     QFile::link(path("plain"), path("out/link.html"));
     QFile::link(path("nowhere"), path("out/broken.html"));
     QFile::link(path("backups"), path("out/folderlink"));
-    world.talk.expect(QStringLiteral("There are already some files"), Button::Cancel);
+    world.talk.expect("There are already some files", Button::Cancel);
     EXPECT_FALSE(prepare(path("out")));
     EXPECT_TRUE(exists("out/index.html"));
-    world.talk.expect(QStringLiteral("There are already some files"));
+    world.talk.expect("There are already some files");
     EXPECT_TRUE(prepare(path("out")));
     EXPECT_FALSE(exists("out/index.html"));
     EXPECT_FALSE(QFileInfo(path("out/link.html")).isSymLink());

@@ -81,7 +81,7 @@ TEST_F(PageAssignmentTest, OwnAncestorEndsTheWalk)
 TEST_F(PageAssignmentTest, HiddenPersonsAreLeftOutWithTheirFamilies)
 {
     persons(7);
-    build.run(QStringLiteral("UPDATE Indi SET BIRT_Date = '1990' WHERE Id IN (1, 3, 4)"));
+    build.run("UPDATE Indi SET BIRT_Date = '1990' WHERE Id IN (1, 3, 4)");
     // The head is written all the same; spouse 3 goes with child 5, child 4 with child 6.
     build.family(1, 1, 2, {4, 7}).family(2, 1, 3, {5}).family(3, 4, 0, {6});
     EXPECT_EQ(walk({}, ProtectedPersons::Hidden), "1:1@1 1+2@1 2:7@1");
@@ -92,12 +92,12 @@ TEST_F(PageAssignmentTest, VeryLongLinesOfDescentAreWalked)
 {
     constexpr int last = 40000;
     Transaction transaction(world.file.connection());
-    build.run(QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1)"
-                             " INSERT INTO Indi (Id) SELECT i FROM n")
+    build.run(QString("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1)"
+                      " INSERT INTO Indi (Id) SELECT i FROM n")
                   .arg(last));
-    build.run(QStringLiteral("INSERT INTO Fam (Id, HusbandId) SELECT Id, Id FROM Indi;"
-                             "INSERT INTO Spouse2Fam SELECT Id, Id FROM Indi;"
-                             "INSERT INTO Fam2Child (FamId, ChildId) SELECT Id - 1, Id FROM Indi WHERE Id > 1"));
+    build.run("INSERT INTO Fam (Id, HusbandId) SELECT Id, Id FROM Indi;"
+              "INSERT INTO Spouse2Fam SELECT Id, Id FROM Indi;"
+              "INSERT INTO Fam2Child (FamId, ChildId) SELECT Id - 1, Id FROM Indi WHERE Id > 1");
     const FamilyTree tree = FamilyTree::load(world.file.connection());
     const SiteTexts texts = SiteTexts::load(world.file.connection(), tree, {});
     const Privacy privacy(tree, texts, ProtectedPersons::Shown, 90, 2026);

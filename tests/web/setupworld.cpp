@@ -8,14 +8,14 @@ namespace stemwright::test
 {
 
 SetupWorld::SetupWorld()
-    : ownApplication(path(QStringLiteral("application"))), own{talk, settings, clock, ownApplication}
 {
-    QDir().mkpath(ownApplication.file(QStringLiteral("graphics")));
-    write(QStringLiteral("application/graphics/tree.gif"), "GIF89a emblem");
+    application = ApplicationFolder(path("application"));
+    QDir().mkpath(application.file("graphics"));
+    write("application/graphics/tree.gif", "GIF89a emblem");
     for (const char* number : {"00", "01", "09"}) {
-        write(QStringLiteral("application/graphics/icons_tree_%1.gif").arg(QString::fromLatin1(number)), "GIF89a");
+        write(QString("application/graphics/icons_tree_%1.gif").arg(number), "GIF89a");
     }
-    CreateFamilyFile(file, path(QStringLiteral("Family.kvf")), own);
+    newFamilyFile();
 }
 
 void SetupWorld::addIndividuals()

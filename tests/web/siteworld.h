@@ -19,7 +19,7 @@ class SiteWorld : public TestWorld
 {
 public:
     /// Uses the tests' own templates, or those of the given application folder.
-    explicit SiteWorld(const QString& application = TestData(QStringLiteral("web/share")));
+    explicit SiteWorld(const QString& application = TestData("web/share"));
 
     /// Sets columns of the setup: "PersPages = 1, HideLiving = 1".
     SiteWorld& setup(const char* assignments);
@@ -32,7 +32,7 @@ public:
     /// False when it was not built.
     bool publish();
 
-    QString site() const { return path(QStringLiteral("site")); }
+    QString site() const { return path("site"); }
 
     /// The bytes of a page, with LF for CR LF; empty for a missing page.
     std::string page(const QString& name) const;
@@ -40,20 +40,13 @@ public:
     /// All files of the site with their bytes.
     std::map<QString, std::string> files() const;
 
-    /// The rows of a query, columns joined by blanks, "-" for Null.
-    QStringList rows(const QString& sql);
-
     FamilyBuilder build;
-
-    ApplicationFolder ownApplication;
-    Environment own;
 
 private:
     int m_trees = 0;
 };
 
-/// A family for the tests of pages: the Harts, five generations from Thomas (1) with remarriages, a marriage of
-/// cousins, unknown spouses, a living branch, and names that need escaping.
+/// Adds the family and the items of tests/data/web/harts.sql, and a tree of its eldest.
 void AddHarts(SiteWorld& world);
 
 } // namespace stemwright::test

@@ -38,13 +38,13 @@ int OpenedElsewhere(const QString& path)
 TEST(Connection, KeepsOthersOutFromOpenToClose)
 {
     const TestWorld world;
-    const QString path = world.path(QStringLiteral("a b.kvf"));
+    const QString path = world.path("a b.kvf");
     {
         Connection connection(path, OpenMode::CreateNew);
         EXPECT_EQ(OpenedElsewhere(path), SQLITE_BUSY) << "just after it was opened";
-        connection.execute(QStringLiteral("CREATE TABLE t (a)"));
+        connection.execute("CREATE TABLE t (a)");
         EXPECT_EQ(OpenedElsewhere(path), SQLITE_BUSY) << "after a change";
-        connection.countRows(QStringLiteral("t"));
+        connection.countRows("t");
         EXPECT_EQ(OpenedElsewhere(path), SQLITE_BUSY) << "after reading";
         EXPECT_THROW(Connection(path, OpenMode::ReadWrite), SQLite::Exception) << "in this program, too";
     }
@@ -54,58 +54,57 @@ TEST(Connection, KeepsOthersOutFromOpenToClose)
 TEST(Connection, PlaysBackWhatAKilledProgramLeft)
 {
     const TestWorld world;
-    const QString path = world.path(QStringLiteral("killed.kvf"));
+    const QString path = world.path("killed.kvf");
     {
         Connection connection(path, OpenMode::CreateNew);
-        connection.execute(QStringLiteral("CREATE TABLE t (a); INSERT INTO t VALUES ('old');"
-                                          "INSERT INTO t SELECT hex(zeroblob(2000)) FROM pragma_function_list"));
+        connection.execute("CREATE TABLE t (a); INSERT INTO t VALUES ('old');"
+                           "INSERT INTO t SELECT hex(zeroblob(2000)) FROM pragma_function_list");
     }
     const auto dieWhileWriting = [&path] {
         Connection connection(path, OpenMode::ReadWrite);
-        connection.execute(QStringLiteral("PRAGMA cache_size=2"));
+        connection.execute("PRAGMA cache_size=2");
         const Transaction transaction(connection);
-        connection.execute(QStringLiteral("UPDATE t SET a = 'new'"));
+        connection.execute("UPDATE t SET a = 'new'");
         ::_exit(0);
         return 0;
     };
     ASSERT_EQ(RunInOwnProcess(dieWhileWriting), 0);
-    ASSERT_TRUE(QFile::exists(path + QStringLiteral("-journal")));
+    ASSERT_TRUE(QFile::exists(path + "-journal"));
     Connection connection(path, OpenMode::ReadWrite);
-    EXPECT_EQ(Column(connection, QStringLiteral("SELECT count(*) FROM t WHERE a = 'new'")),
-              QStringList{QStringLiteral("0")});
+    EXPECT_EQ(Rows(connection, "SELECT count(*) FROM t WHERE a = 'new'"), QStringList{"0"});
 }
 
 TEST(Connection, TransactionsUndoWhatWasNotCommitted)
 {
     const TestWorld world;
-    Connection connection(world.path(QStringLiteral("t.kvf")), OpenMode::CreateNew);
-    connection.execute(QStringLiteral("CREATE TABLE t (a)"));
+    Connection connection(world.path("t.kvf"), OpenMode::CreateNew);
+    connection.execute("CREATE TABLE t (a)");
     {
         Transaction outer(connection);
-        connection.execute(QStringLiteral("INSERT INTO t VALUES (1)"));
+        connection.execute("INSERT INTO t VALUES (1)");
         {
             const Transaction inner(connection);
-            connection.execute(QStringLiteral("INSERT INTO t VALUES (2)"));
+            connection.execute("INSERT INTO t VALUES (2)");
         }
-        EXPECT_EQ(connection.countRows(QStringLiteral("t")), 1);
+        EXPECT_EQ(connection.countRows("t"), 1);
         outer.commit();
     }
     {
         const Transaction undone(connection);
-        connection.execute(QStringLiteral("DELETE FROM t"));
+        connection.execute("DELETE FROM t");
     }
-    EXPECT_EQ(connection.countRows(QStringLiteral("t")), 1);
+    EXPECT_EQ(connection.countRows("t"), 1);
     EXPECT_FALSE(connection.inTransaction());
 }
 
 TEST(Connection, NullAndTheEmptyTextStayApart)
 {
     const TestWorld world;
-    Connection connection(world.path(QStringLiteral("t.kvf")), OpenMode::CreateNew);
-    connection.execute(QStringLiteral("CREATE TABLE t (a VARCHAR(255), b, c LONGBLOB, d)"));
-    Statement insert = connection.prepare(QStringLiteral("INSERT INTO t VALUES (?1, ?2, ?3, ?4)"));
-    insert.bind(1, QStringLiteral("")).bind(2, QString()).bindBytes(3, QByteArray("")).bindUtf8(4, {}).run();
-    Statement row = connection.prepare(QStringLiteral("SELECT * FROM t"));
+    Connection connection(world.path("t.kvf"), OpenMode::CreateNew);
+    connection.execute("CREATE TABLE t (a VARCHAR(255), b, c LONGBLOB, d)");
+    Statement insert = connection.prepare("INSERT INTO t VALUES (?1, ?2, ?3, ?4)");
+    insert.bind(1, "").bind(2, QString()).bindBytes(3, QByteArray("")).bindUtf8(4, {}).run();
+    Statement row = connection.prepare("SELECT * FROM t");
     ASSERT_TRUE(row.step());
     EXPECT_FALSE(row.isNull(0));
     EXPECT_FALSE(row.text(0).isNull());
@@ -120,11 +119,11 @@ TEST(Connection, NullAndTheEmptyTextStayApart)
 TEST(Connection, NamesInQuotesAreNeverTexts)
 {
     const TestWorld world;
-    Connection connection(world.path(QStringLiteral("t.kvf")), OpenMode::CreateNew);
-    connection.execute(QStringLiteral("CREATE TABLE t (a)"));
-    EXPECT_THROW(connection.prepare(QStringLiteral("SELECT \"b\" FROM t")), SQLite::Exception);
-    EXPECT_THROW(connection.execute(QStringLiteral("CREATE TABLE u (a CHECK (matches_pattern('x', a)));"
-                                                   "INSERT INTO u VALUES ('x')")),
+    Connection connection(world.path("t.kvf"), OpenMode::CreateNew);
+    connection.execute("CREATE TABLE t (a)");
+    EXPECT_THROW(connection.prepare("SELECT \"b\" FROM t"), SQLite::Exception);
+    EXPECT_THROW(connection.execute("CREATE TABLE u (a CHECK (matches_pattern('x', a)));"
+                                    "INSERT INTO u VALUES ('x')"),
                  SQLite::Exception);
 }
 

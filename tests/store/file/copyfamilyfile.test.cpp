@@ -30,7 +30,7 @@ TEST(CopyFamilyFile, TheBackupStandsBesideTheFile)
     const std::pair<const char*, const char*> cases[] = {
         {"/a/Smith.kvf", "/a/Smith.ffb"}, {"/a/Smith.old.kvf", "/a/Smith.old.ffb"}, {"/a.b/Smith", "/a.b/Smith.ffb"}};
     for (const auto& [file, backup] : cases) {
-        EXPECT_EQ(BackupPath(QString::fromLatin1(file)), QString::fromLatin1(backup));
+        EXPECT_EQ(BackupPath(file), backup);
     }
 }
 
@@ -39,12 +39,12 @@ TEST(CopyFamilyFile, TheBackupHoldsWhatTheOpenFileHolds)
     TestWorld world;
     Connection& connection = world.newFamilyFile().connection();
     const QString backup = BackupFamilyFile(connection);
-    EXPECT_EQ(backup, world.path(QStringLiteral("Family.ffb")));
-    EXPECT_EQ(RowsOfCopy(backup, QStringLiteral("Indi")), 0);
-    connection.execute(QStringLiteral("INSERT INTO Indi (Id) VALUES (1)"));
+    EXPECT_EQ(backup, world.path("Family.ffb"));
+    EXPECT_EQ(RowsOfCopy(backup, "Indi"), 0);
+    connection.execute("INSERT INTO Indi (Id) VALUES (1)");
     EXPECT_EQ(BackupFamilyFile(connection), backup);
-    EXPECT_EQ(RowsOfCopy(backup, QStringLiteral("Indi")), 1);
-    EXPECT_EQ(QDir(world.path({})).entryList({QStringLiteral("*unfinished*")}, QDir::Files), QStringList());
+    EXPECT_EQ(RowsOfCopy(backup, "Indi"), 1);
+    EXPECT_EQ(QDir(world.path({})).entryList({"*unfinished*"}, QDir::Files), QStringList());
 }
 
 TEST(CopyFamilyFile, ADamagedFileDoesNotReplaceAGoodCopy)
@@ -52,18 +52,18 @@ TEST(CopyFamilyFile, ADamagedFileDoesNotReplaceAGoodCopy)
     TestWorld world;
     Connection& connection = world.newFamilyFile().connection();
     const QString backup = BackupFamilyFile(connection);
-    connection.execute(QStringLiteral("PRAGMA ignore_check_constraints = 1; INSERT INTO UniqueIds VALUES (1, 7)"));
+    connection.execute("PRAGMA ignore_check_constraints = 1; INSERT INTO UniqueIds VALUES (1, 7)");
     EXPECT_THROW(BackupFamilyFile(connection), Error);
-    EXPECT_EQ(RowsOfCopy(backup, QStringLiteral("UniqueIds")), 0);
+    EXPECT_EQ(RowsOfCopy(backup, "UniqueIds"), 0);
 }
 
 TEST(CopyFamilyFile, TheOpenFileIsNeverItsOwnTarget)
 {
     TestWorld world;
-    ASSERT_TRUE(CreateFamilyFile(world.file, world.path(QStringLiteral("Family.ffb")), world.environment));
+    ASSERT_TRUE(CreateFamilyFile(world.file, world.path("Family.ffb"), world.environment));
     EXPECT_THROW(BackupFamilyFile(world.file.connection()), Error);
-    ASSERT_TRUE(QFile::link(world.file.path(), world.path(QStringLiteral("link.kvf"))));
-    EXPECT_THROW(CopyFamilyFile(world.file.connection(), world.path(QStringLiteral("link.kvf"))), Error);
+    ASSERT_TRUE(QFile::link(world.file.path(), world.path("link.kvf")));
+    EXPECT_THROW(CopyFamilyFile(world.file.connection(), world.path("link.kvf")), Error);
 }
 
 } // namespace stemwright::test

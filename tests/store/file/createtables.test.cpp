@@ -22,13 +22,13 @@ QString Rows(Connection& connection)
         if (connection.countRows(table.name) > 0) {
             lines << table.name;
         }
-        Statement row = connection.prepare(QStringLiteral("SELECT * FROM \"%1\" ORDER BY rowid").arg(table.name));
+        Statement row = connection.prepare(QString("SELECT * FROM \"%1\" ORDER BY rowid").arg(table.name));
         while (row.step()) {
-            QString mark = QStringLiteral("- ");
+            QString mark = "- ";
             for (int column = 0; column < row.columnCount(); ++column) {
                 if (!row.isNull(column)) {
                     lines << mark + row.columnName(column) + u'=' + row.text(column).replace(u'\t', u'⇥');
-                    mark = QStringLiteral("  ");
+                    mark = "  ";
                 }
             }
         }
@@ -38,9 +38,9 @@ QString Rows(Connection& connection)
 
 QString GoldenRows(const QString& applicationFolder)
 {
-    QString golden = TestDataText(QStringLiteral("store/newfile.txt"));
+    QString golden = TestDataText("store/newfile.txt");
     golden.remove(0, golden.indexOf(u'\n') + 1);
-    return golden.replace(QStringLiteral("<application>"), applicationFolder);
+    return golden.replace("<application>", applicationFolder);
 }
 
 } // namespace
@@ -48,23 +48,23 @@ QString GoldenRows(const QString& applicationFolder)
 TEST(CreateTables, NewFileHoldsItsDefaultRowsAndNoOthers)
 {
     TestWorld world;
-    world.application = ApplicationFolder(world.path(QStringLiteral("application")));
-    ASSERT_TRUE(CreateFolderPath(world.application.file(QStringLiteral("graphics"))));
-    world.write(QStringLiteral("application/graphics/tree.gif"), "GIF89a of the application");
+    world.application = ApplicationFolder(world.path("application"));
+    ASSERT_TRUE(CreateFolderPath(world.application.file("graphics")));
+    world.write("application/graphics/tree.gif", "GIF89a of the application");
     EXPECT_EQ(Rows(world.newFamilyFile().connection()), GoldenRows(world.application.path()));
-    EXPECT_EQ(world.settings.value(setting::picListQueries, setting::defaultPicListQuery), QStringLiteral("Initial"));
+    EXPECT_EQ(world.settings.value(setting::picListQueries, setting::defaultPicListQuery), "Initial");
 }
 
 TEST(CreateTables, WithoutTheEmblemTheSetupIsWrittenAllTheSame)
 {
     TestWorld world;
-    world.application = ApplicationFolder(world.path(QStringLiteral("nowhere")));
-    Statement setup = world.newFamilyFile().connection().prepare(
-        QStringLiteral("SELECT EmblemPicture, EmblemFiletype, SetupName FROM WebSiteInfo"));
+    world.application = ApplicationFolder(world.path("nowhere"));
+    Statement setup =
+        world.newFamilyFile().connection().prepare("SELECT EmblemPicture, EmblemFiletype, SetupName FROM WebSiteInfo");
     ASSERT_TRUE(setup.step());
     EXPECT_TRUE(setup.isNull(0));
     EXPECT_TRUE(setup.isNull(1));
-    EXPECT_EQ(setup.text(2), QStringLiteral("Default"));
+    EXPECT_EQ(setup.text(2), "Default");
 }
 
 TEST(CreateTables, ATableIsNotCreatedTwice)
