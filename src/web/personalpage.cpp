@@ -42,11 +42,7 @@ private:
 
     void line(std::string_view bytes) { m_file.line(bytes); }
 
-    void cell(std::string_view tag, std::string_view content)
-    {
-        page().append("\t<").append(tag).append(">").append(content);
-        line(tag.starts_with("TH") ? "</TH>" : "</TD>");
-    }
+    void cell(std::string_view content) { page().append("\t<TD>").append(content).append("</TD>\r\n"); }
 
     void writeHeading()
     {
@@ -153,9 +149,9 @@ private:
     void writeRow(const PublishedItem& item, const std::string& date, const std::string& place)
     {
         line("<TR>");
-        cell("TD", TextCell(item.name));
-        cell("TD", date);
-        cell("TD", place);
+        cell(TextCell(item.name));
+        cell(date);
+        cell(place);
         line("</TR>");
     }
 
@@ -176,9 +172,9 @@ private:
     void writeParent(std::string_view word, TreePosition parent, std::size_t relation)
     {
         line("<TR>");
-        cell("TD", word);
+        cell(word);
         if (parent == nowhere) {
-            cell("TD", unknownCell);
+            cell(unknownCell);
         } else {
             page().append("\t<TD>");
             appendPersonLink(parent);
@@ -186,7 +182,7 @@ private:
         }
         const bool hidden = (parent != nowhere && !m_run.mayBeNamed(parent)) || isPrivateRelation(relation);
         const auto value = m_run.texts.childInFamily(m_run.tree.parentFamily(m_person), m_person, relation);
-        cell("TD", hidden || value.value_or("").empty() ? std::string(nothing) : TextCell(*value));
+        cell(hidden || value.value_or("").empty() ? std::string(nothing) : TextCell(*value));
         line("</TR>");
     }
 
@@ -299,7 +295,7 @@ private:
     {
         const auto birth = m_run.texts.individual(child, individualcolumn::birthDate).value_or("");
         const bool shown = !birth.empty() && !m_run.privacy.isProtected(child);
-        cell("TD", shown ? "Born:" + DateCell(birth) : std::string(nothing));
+        cell(shown ? "Born:" + DateCell(birth) : std::string(nothing));
     }
 
     void writeContact()
@@ -333,8 +329,8 @@ private:
     void writeContactRow(std::string_view caption, const std::string& link)
     {
         line("<TR>");
-        cell("TD", caption);
-        cell("TD", link + "</A>");
+        cell(caption);
+        cell(link + "</A>");
         line("</TR>");
     }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "web/texttable.h"
 
+#include <bit>
+
 namespace stemwright
 {
 
@@ -12,35 +14,51 @@ namespace
 /// byte says that another follows.
 constexpr std::size_t groupBits = 7;
 constexpr std::size_t moreFollows = 0x80;
+constexpr std::size_t byteBits = 8;
+
+unsigned char Bit(std::size_t column)
+{
+    return static_cast<unsigned char>(1U << (column % byteBits));
+}
 
 } // namespace
 
 void TextTable::appendRow(const Statement& statement, int first)
 {
-    m_begin.push_back(m_bytes.size());
-    for (int column = 0; column < static_cast<int>(m_columns); ++column) {
-        if (statement.isNull(first + column)) {
-            appendLength(0);
-            continue;
+    const std::size_t begin = m_bytes.size();
+    m_begin.push_back(begin);
+    m_bytes.append(m_presenceBytes, '\0');
+    for (std::size_t column = 0; column < m_columns; ++column) {
+        const int source = first + static_cast<int>(column);
+        if (!statement.isNull(source)) {
+            char& presence = m_bytes[begin + column / byteBits];
+            presence = static_cast<char>(static_cast<unsigned char>(presence) | Bit(column));
+            const std::string_view text = statement.utf8(source);
+            appendLength(text.size());
+            m_bytes.append(text);
         }
-        const std::string_view text = statement.utf8(first + column);
-        appendLength(text.size() + 1);
-        m_bytes.append(text);
     }
 }
 
 std::optional<std::string_view> TextTable::cell(std::size_t row, std::size_t column) const
 {
-    std::size_t position = m_begin[row];
-    for (std::size_t before = 0;; ++before) {
-        const std::size_t stored = readLength(position);
-        const std::size_t length = stored == 0 ? 0 : stored - 1;
-        if (before == column) {
-            return stored == 0 ? std::nullopt
-                               : std::optional<std::string_view>(std::in_place, m_bytes.data() + position, length);
-        }
+    const std::size_t begin = m_begin[row];
+    const auto presence = [this, begin](std::size_t byte) { return static_cast<unsigned char>(m_bytes[begin + byte]); };
+    const std::size_t own = column / byteBits;
+    if ((presence(own) & Bit(column)) == 0) {
+        return std::nullopt;
+    }
+    int before = std::popcount(static_cast<unsigned>(presence(own) & (Bit(column) - 1)));
+    for (std::size_t byte = 0; byte < own; ++byte) {
+        before += std::popcount(presence(byte));
+    }
+    std::size_t position = begin + m_presenceBytes;
+    for (; before > 0; --before) {
+        const std::size_t length = readLength(position);
         position += length;
     }
+    const std::size_t length = readLength(position);
+    return std::string_view(m_bytes.data() + position, length);
 }
 
 void TextTable::appendLength(std::size_t length)

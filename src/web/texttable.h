@@ -10,8 +10,9 @@
 #include <string_view>
 #include <vector>
 
-/// A table of texts held in memory, compact: the cells of a row stand one after another in one block of bytes, a Null
-/// cell takes one byte. Reading fails as the engine fails. Stands on the connection.
+/// A table of texts held in memory, compact: the cells of a row stand one after another in one block of bytes, behind
+/// one bit for each column that says whether it has a cell, since most are Null. Reading fails as the engine fails.
+/// Stands on the connection.
 namespace stemwright
 {
 
@@ -19,7 +20,7 @@ class TextTable
 {
 public:
     /// A table with this many columns and no rows.
-    explicit TextTable(std::size_t columns = 0) : m_columns(columns) {}
+    explicit TextTable(std::size_t columns = 0) : m_columns(columns), m_presenceBytes((columns + 7) / 8) {}
 
     /// Appends a row: the statement's columns from `first` on, as many as the table has.
     void appendRow(const Statement& statement, int first);
@@ -40,6 +41,7 @@ private:
     std::size_t readLength(std::size_t& position) const;
 
     std::size_t m_columns;
+    std::size_t m_presenceBytes;
     std::vector<std::uint64_t> m_begin;
     std::string m_bytes;
 };
