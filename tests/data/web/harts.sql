@@ -11,7 +11,7 @@ INSERT INTO Indi (Id, GivenName, Surname, Sex, Title, Suffix, Alias, BIRT_Date, 
   (8, 'Rose', 'Hart', 'F', NULL, NULL, NULL, '1850', NULL, NULL, 4),
   (9, 'Paul', 'Katz', 'M', NULL, NULL, NULL, NULL, NULL, NULL, 8),
   (10, 'Peter', 'Katz', 'M', NULL, NULL, NULL, '2 FEB 1852', NULL, NULL, 5),
-  (11, 'Lucy', 'Katz', 'F', NULL, NULL, NULL, '1880', NULL, NULL, 6),
+  (11, 'Lucy "Lu"', 'Katz', 'F', NULL, NULL, NULL, '1880', NULL, NULL, 6),
   (12, 'Жан', 'Абай', 'M', NULL, NULL, NULL, NULL, NULL, NULL, NULL),
   (13, 'Vera', 'Vivid', 'F', NULL, NULL, NULL, '3 MAR 1990', 'Secretville', NULL, 7),
   (14, 'Otto', 'Old', 'M', NULL, NULL, NULL, '1801', NULL, NULL, NULL),
@@ -26,7 +26,7 @@ INSERT INTO Fam2Child (FamId, ChildId, _FREL) VALUES
   (1, 4, NULL), (1, 5, NULL), (2, 6, NULL), (3, 15, NULL), (4, 8, NULL), (5, 10, NULL), (6, 11, NULL),
   (7, 13, 'Natural'), (8, 9, NULL);
 INSERT INTO WebAddr (Id, Email1, Email2, WebPage) VALUES
-  (6, 'will@example.org', NULL, 'example.org/~will'), (11, 'a@example.org', 'b@example.org', NULL),
+  (6, 'will@example.org', NULL, 'example.org/~will'), (11, 'o''neil"x@example.org', 'b@example.org', NULL),
   (13, 'vera@secret.example', NULL, 'https://secret.example');
 INSERT INTO SelectedItems (SetupName, ItemValue) VALUES
   ('Default', replace('Birth|BIRT|dp|Yes|b. | in |;||Indi', '|', char(9))),
