@@ -4,6 +4,7 @@
 #include "base/version.h"
 #include "cli/commandline.h"
 #include "cli/consoletalk.h"
+#include "store/engine/engineerror.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLoggingCategory>
@@ -84,7 +85,7 @@ int Run(int argc, char** argv)
     } catch (const AlreadyReported&) {
         return 1;
     } catch (const std::exception& exception) {
-        talk.tell({{}, ErrorText(exception), Icon::Critical});
+        talk.tell({{}, ReasonText(exception), Icon::Critical});
         return 1;
     }
 }

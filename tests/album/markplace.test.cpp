@@ -3,6 +3,7 @@
 #include "album/markplace.h"
 
 #include "base/error.h"
+#include "support/testworld.h"
 
 #include <gtest/gtest.h>
 
@@ -11,12 +12,7 @@ namespace stemwright::test
 
 TEST(MarkPlace, IsTheShownPointerAtFullSize)
 {
-    struct Case {
-        PointerOnPicture pointer;
-        MarkPlace place;
-    };
-
-    const std::vector<Case> cases = {
+    const std::pair<PointerOnPicture, MarkPlace> cases[] = {
         {{1500, 750, 900, 600, 0, 0, 15, 1}, {100, 50, 60, 40}},
         // Shown at half its size, the picture is twice as large as it looks.
         {{1500, 750, 900, 600, 0, 0, 15, 0.5}, {200, 100, 120, 80}},
@@ -25,8 +21,8 @@ TEST(MarkPlace, IsTheShownPointerAtFullSize)
         {{30, 90, 150, 210, 0, 0, 60, 1}, {0, 2, 2, 4}},
         {{-30, -90, 20, 20, 0, 0, 60, 1}, {0, -2, 0, 0}},
     };
-    for (const Case& tested : cases) {
-        EXPECT_EQ(GetPointerCoords(tested.pointer), tested.place) << tested.pointer.pointerLeft;
+    for (const auto& [pointer, place] : cases) {
+        EXPECT_EQ(GetPointerCoords(pointer), place) << pointer.pointerLeft;
     }
 }
 
@@ -57,27 +53,17 @@ TEST(MarkPlace, IsReadFromNumbersAlone)
 
 TEST(MarkPlace, LiesWithinItsPicture)
 {
-    struct Case {
-        MarkPlace place;
-        PointerTool tool;
-        bool fits;
-    };
-
     const auto none = std::nullopt;
-    const std::vector<Case> cases = {
+    const std::tuple<MarkPlace, PointerTool, bool> cases[] = {
         {{0, 0, 400, 300}, PointerTool::Rectangle, true},      {{390, 290, 10, 10}, PointerTool::Rectangle, true},
         {{391, 290, 10, 10}, PointerTool::Rectangle, false},   {{390, 291, 10, 10}, PointerTool::Rectangle, false},
         {{-1, 0, 10, 10}, PointerTool::Rectangle, false},      {{10, 10, 0, 10}, PointerTool::Rectangle, false},
         {{10, 10, none, none}, PointerTool::Rectangle, false}, {{399, 299, none, none}, PointerTool::Arrow, true},
         {{400, 10, none, none}, PointerTool::Arrow, false},
     };
-    for (const Case& tested : cases) {
-        const auto check = [&tested] { RequireWithinPicture(tested.place, {400, 300}, tested.tool); };
-        if (tested.fits) {
-            EXPECT_NO_THROW(check()) << tested.place.x << ',' << tested.place.y;
-        } else {
-            EXPECT_THROW(check(), Error) << tested.place.x << ',' << tested.place.y;
-        }
+    for (const auto& [place, tool, fits] : cases) {
+        const QString error = ErrorOf([&, &p = place, &t = tool] { RequireWithinPicture(p, {400, 300}, t); });
+        EXPECT_EQ(error.isEmpty(), fits) << place.x << ',' << place.y;
     }
     EXPECT_THROW(RequireWithinPicture({0, 0, none, none}, {}, PointerTool::Arrow), Error);
 }

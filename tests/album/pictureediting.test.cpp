@@ -34,15 +34,7 @@ TEST(PictureEditing, StoresANewRecordWithItsPicture)
 
 TEST(PictureEditing, AsksByTheSizeOfTheFile)
 {
-    struct Case {
-        qsizetype bytes;
-        std::optional<Button> answer;
-        bool taken;
-        bool thumbnail;
-        const char* size;
-    };
-
-    const Case cases[] = {
+    const std::tuple<qsizetype, std::optional<Button>, bool, bool, const char*> cases[] = {
         {120 * 1024 + 512, std::nullopt, true, true, ""},
         {120 * 1024 + 513, Button::Ok, true, false, "Your picture size is 121 kilobytes (KB). We don't recommend"},
         {121 * 1024, Button::Cancel, false, false, "is 121 kilobytes"},
@@ -50,17 +42,17 @@ TEST(PictureEditing, AsksByTheSizeOfTheFile)
         {200 * 1024 + 513, Button::Ok, false, false,
          "is 201 kilobytes (KB).  It exceeds the allowed maximum of 200 KB."},
     };
-    for (const Case& tested : cases) {
+    for (const auto& [bytes, answer, taken, thumbnail, size] : cases) {
         AlbumWorld world;
-        if (tested.answer) {
-            world.talk.expect("Picture Too Large", *tested.answer);
+        if (answer) {
+            world.talk.expect("Picture Too Large", *answer);
         }
         world.editing.AddPicRec();
-        const QString path = world.write("p.jpg", JpegOfBytes(tested.bytes));
-        EXPECT_EQ(world.editing.choosePicture(path), tested.taken) << tested.bytes;
-        EXPECT_EQ(world.editing.pictureChanged(), tested.taken) << tested.bytes;
-        EXPECT_EQ(!world.editing.chosenThumbnail().isNull(), tested.thumbnail) << tested.bytes;
-        EXPECT_TRUE(!tested.answer || world.talk.shown()[0].text.contains(tested.size)) << world.talk.shown()[0].text;
+        const QString path = world.write("p.jpg", JpegOfBytes(bytes));
+        EXPECT_EQ(world.editing.choosePicture(path), taken) << bytes;
+        EXPECT_EQ(world.editing.pictureChanged(), taken) << bytes;
+        EXPECT_EQ(!world.editing.chosenThumbnail().isNull(), thumbnail) << bytes;
+        EXPECT_TRUE(!answer || world.talk.shown()[0].text.contains(size)) << world.talk.shown()[0].text;
     }
 }
 

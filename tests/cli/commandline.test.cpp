@@ -60,10 +60,7 @@ TEST(CommandLine, TakesPathsOfEveryKind)
 TEST(CommandLine, WorksWhereTheSystemNamesNoEncoding)
 {
     CliWorld world;
-    CliWorld::Variables none;
-    for (const char* variable : {"LC_ALL", "LC_CTYPE", "LANG"}) {
-        none.insert(variable, {});
-    }
+    const CliWorld::Variables none = {{"LC_ALL", ""}, {"LC_CTYPE", ""}, {"LANG", ""}};
     const Outcome outcome = world.run({"new", world.path("Семья.kvf")}, none);
     EXPECT_EQ(outcome.status, 0) << outcome;
     EXPECT_FALSE(outcome.errors.contains("locale")) << outcome;

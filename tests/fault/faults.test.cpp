@@ -37,12 +37,11 @@ protected:
     /// Runs a command on a disk that has `fault` below `folder` after so many bytes.
     Outcome runOnFaultyDisk(const QString& fault, const QString& folder, qint64 after, const QStringList& arguments)
     {
-        CliWorld::Variables variables = {{"LD_PRELOAD", STEMWRIGHT_FAULTY_DISK},
-                                         {"FAULTY_DISK", fault},
-                                         {"FAULTY_DISK_FOLDER", folder},
-                                         {"FAULTY_DISK_AFTER", QString::number(after)},
-                                         {"ASAN_OPTIONS", "verify_asan_link_order=0"}};
-        return world.run(arguments, variables);
+        return world.run(arguments, {{"LD_PRELOAD", STEMWRIGHT_FAULTY_DISK},
+                                     {"FAULTY_DISK", fault},
+                                     {"FAULTY_DISK_FOLDER", folder},
+                                     {"FAULTY_DISK_AFTER", QString::number(after)},
+                                     {"ASAN_OPTIONS", "verify_asan_link_order=0"}});
     }
 
     /// The command failed, said why, and the family file holds what it held before.

@@ -15,13 +15,6 @@ namespace
 class DescendantsTest : public testing::Test
 {
 protected:
-    void persons(int last)
-    {
-        for (int id = 1; id <= last; ++id) {
-            build.person(id, "P", "");
-        }
-    }
-
     FamilyTree tree() { return FamilyTree::load(world.file.connection()); }
 
     /// The id of the individual with the most descendants; 0 when there is none.
@@ -40,7 +33,7 @@ protected:
 
 TEST_F(DescendantsTest, EveryDescendantCountsOnceHoweverHeIsReached)
 {
-    persons(6);
+    build.persons(6);
     // 3 and 4 are siblings who have a child; the child has two more ways up through a second family of 3.
     build.family(1, 1, 2, {3, 4}).family(2, 3, 4, {5}).family(3, 3, 0, {5, 6});
     const FamilyTree links = tree();
@@ -51,7 +44,7 @@ TEST_F(DescendantsTest, EveryDescendantCountsOnceHoweverHeIsReached)
 
 TEST_F(DescendantsTest, ManyWaysDownDoNotWinOverManyDescendants)
 {
-    persons(20);
+    build.persons(20);
     // 1 has four descendants by eight ways; 10 has five by five ways.
     build.family(1, 1, 0, {2, 3}).family(2, 2, 3, {4}).family(3, 3, 0, {4, 5}).family(4, 4, 0, {5});
     build.family(5, 10, 0, {11, 12, 13, 14, 15});
@@ -61,7 +54,7 @@ TEST_F(DescendantsTest, ManyWaysDownDoNotWinOverManyDescendants)
 TEST_F(DescendantsTest, EqualsGoByNumberAndCirclesEnd)
 {
     EXPECT_EQ(best(), 0);
-    persons(4);
+    build.persons(4);
     EXPECT_EQ(best(), 0);
     build.family(1, 3, 2, {1, 4});
     EXPECT_EQ(best(), 2);

@@ -29,6 +29,14 @@ FamilyBuilder& FamilyBuilder::person(int id, const char* givenName, const char* 
     return *this;
 }
 
+FamilyBuilder& FamilyBuilder::persons(int last)
+{
+    for (int id = 1; id <= last; ++id) {
+        person(id, "P", "");
+    }
+    return *this;
+}
+
 FamilyBuilder& FamilyBuilder::family(int id, int husband, int wife, const std::vector<int>& children, Values others)
 {
     run(QString("INSERT INTO Fam (Id, HusbandId, WifeId) VALUES (%1, %2, %3)")

@@ -25,6 +25,9 @@ public:
     /// Texts are UTF-8. An Indi row with this id, given name and surname.
     FamilyBuilder& person(int id, const char* givenName, const char* surname, Values others = {});
 
+    /// Persons without a surname, numbered from 1.
+    FamilyBuilder& persons(int last);
+
     /// A Fam row with its links from and to husband, wife and children; 0 stands for nobody.
     FamilyBuilder& family(int id, int husband, int wife, const std::vector<int>& children, Values others = {});
 

@@ -18,13 +18,6 @@ namespace
 class PageAssignmentTest : public testing::Test
 {
 protected:
-    void persons(int last)
-    {
-        for (int id = 1; id <= last; ++id) {
-            build.person(id, "P", "");
-        }
-    }
-
     /// The entries of the walk from person 1, as "generation:id" with "+" for a spouse, "=" for a duplicate and the
     /// page's owner after "@".
     std::string walk(const WalkLimits& limits, ProtectedPersons handling = ProtectedPersons::Shown)
@@ -52,7 +45,7 @@ protected:
 
 TEST_F(PageAssignmentTest, GenerationsArePutOnPages)
 {
-    persons(6);
+    build.persons(6);
     build.family(1, 1, 0, {2}).family(2, 2, 0, {3, 6}).family(3, 3, 0, {4}).family(4, 4, 0, {5});
     EXPECT_EQ(walk({.generationsOnPage = 2}), "1:1@1 1+?@1 2:2@1 2+?@1 3:3@3 3+?@3 4:4@3 4+?@3 5:5@5 3:6@6");
     EXPECT_EQ(walk({.generationsOnPage = 1}), "1:1@1 1+?@1 2:2@1 2+?@1 3:3@3 3+?@3 4:4@3 4+?@3 5:5@5 3:6@6");
@@ -62,7 +55,7 @@ TEST_F(PageAssignmentTest, GenerationsArePutOnPages)
 
 TEST_F(PageAssignmentTest, WhoIsMetTwiceIsWrittenOnce)
 {
-    persons(8);
+    build.persons(8);
     // 4 and 5 are cousins and have 6; 5 has 8 with 7.
     build.family(1, 1, 0, {2, 3}).family(2, 2, 0, {4}).family(3, 3, 0, {5}).family(4, 4, 5, {6}).family(5, 7, 5, {8});
     EXPECT_EQ(walk({}), "1:1@1 1+?@1 2:2@1 2+?@1 3:4@1 3+5=@1 4:6@1 2:3@1 2+?@1 3:5@1 3+4=@1 4:6=@1 3+7@1 4:8@1");
@@ -73,14 +66,14 @@ TEST_F(PageAssignmentTest, WhoIsMetTwiceIsWrittenOnce)
 
 TEST_F(PageAssignmentTest, OwnAncestorEndsTheWalk)
 {
-    persons(3);
+    build.persons(3);
     build.family(1, 1, 0, {2}).family(2, 2, 0, {1, 3}).family(3, 3, 3, {3});
     EXPECT_EQ(walk({}), "1:1@1 1+?@1 2:2@1 2+?@1 3:1=@1 3+?@1 3:3@1 3+?@1 4:3=@1 4+?@1");
 }
 
 TEST_F(PageAssignmentTest, HiddenPersonsAreLeftOutWithTheirFamilies)
 {
-    persons(7);
+    build.persons(7);
     build.run("UPDATE Indi SET BIRT_Date = '1990' WHERE Id IN (1, 3, 4)");
     // The head is written all the same; spouse 3 goes with child 5, child 4 with child 6.
     build.family(1, 1, 2, {4, 7}).family(2, 1, 3, {5}).family(3, 4, 0, {6});

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "web/privacy.h"
 
+#include "support/testworld.h"
+
 #include <gtest/gtest.h>
 
 namespace stemwright::test
@@ -9,32 +11,13 @@ namespace stemwright::test
 
 TEST(Privacy, TestLooksAtDeathAndYearOfBirth)
 {
-    using Value = std::optional<std::string_view>;
-
-    struct Case {
-        Value birthDate;
-        Value deathDate;
-        Value deathPlace;
-        int maxAge;
-        bool isProtected;
-    };
-
-    for (const Case& each : std::vector<Case>{{"1 JAN 1912", {}, {}, 90, true},
-                                              {"1911", {}, {}, 90, false},
-                                              {"12 MAR 2010", {}, {}, 90, true},
-                                              {"1990 ", {}, {}, 90, true},
-                                              {{}, {}, {}, 90, false},
-                                              {"", {}, {}, 90, false},
-                                              {"abt 1990?", {}, {}, 90, false},
-                                              {"990", {}, {}, 2000, false},
-                                              {"1990", "2000", {}, 90, false},
-                                              {"1990", {}, "London", 90, false},
-                                              {"1990", "", {}, 90, false},
-                                              {"2002", {}, {}, 0, true}}) {
-        constexpr int currentYear = 2002;
-        EXPECT_EQ(IsPrivacyProtected(each.birthDate, each.deathDate, each.deathPlace, each.maxAge, currentYear),
-                  each.isProtected)
-            << each.birthDate.value_or("Null");
+    for (const QStringList& row : TestTable("web/privacy.txt")) {
+        const std::array<std::string, 3> texts = {row[0].toStdString(), row[1].toStdString(), row[2].toStdString()};
+        const auto value = [&](int column) -> std::optional<std::string_view> {
+            return row[column].isNull() ? std::nullopt : std::optional<std::string_view>(texts[std::size_t(column)]);
+        };
+        EXPECT_EQ(IsPrivacyProtected(value(0), value(1), value(2), row[3].toInt(), 2002), row[4] == "yes")
+            << row.join(u'|');
     }
 }
 

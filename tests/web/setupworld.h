@@ -4,6 +4,8 @@
 
 #include "support/testworld.h"
 
+#include <QtCore/QDir>
+
 namespace stemwright::test
 {
 
@@ -11,10 +13,23 @@ namespace stemwright::test
 class SetupWorld : public TestWorld
 {
 public:
-    SetupWorld();
+    SetupWorld()
+    {
+        application = ApplicationFolder(path("application"));
+        QDir().mkpath(application.file("graphics"));
+        write("application/graphics/tree.gif", "GIF89a emblem");
+        for (const char* number : {"00", "01", "09"}) {
+            write(QString("application/graphics/icons_tree_%1.gif").arg(number), "GIF89a");
+        }
+        newFamilyFile();
+    }
 
     /// Two individuals, numbered 1 and 2.
-    void addIndividuals();
+    void addIndividuals()
+    {
+        execute("INSERT INTO Indi (Id, Surname, GivenName, Title, Suffix) VALUES"
+                " (1, 'Windsor', 'Anne', 'Princess', 'II'), (2, 'O''Hara', NULL, NULL, NULL)");
+    }
 };
 
 } // namespace stemwright::test
