@@ -68,5 +68,7 @@ void AddSetupCommands(CLI::App& app, CommandLine& line);
 void AddPublishCommands(CLI::App& app, CommandLine& line);
 void AddPictureCommands(CLI::App& app, CommandLine& line);
 void AddMarkCommands(CLI::App& app, CommandLine& line);
+void AddQueryCommands(CLI::App& app, CommandLine& line);
+void AddExportCommands(CLI::App& app, CommandLine& line);
 
 } // namespace stemwright

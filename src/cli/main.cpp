@@ -75,6 +75,8 @@ int Run(int argc, char** argv)
         AddPublishCommands(app, line);
         AddPictureCommands(app, line);
         AddMarkCommands(app, line);
+        AddQueryCommands(app, line);
+        AddExportCommands(app, line);
         try {
             app.parse(argc, argv);
         } catch (const CLI::ParseError& error) {

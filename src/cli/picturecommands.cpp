@@ -9,6 +9,7 @@
 #include "base/error.h"
 #include "base/files.h"
 #include "cli/listing.h"
+#include "cli/picturelisting.h"
 
 #include <QtCore/QFileInfo>
 
@@ -106,8 +107,14 @@ void AddList(CLI::App& picture, CommandLine& line)
 {
     auto* command = picture.add_subcommand("list", "List the pictures of a family file");
     auto file = std::make_shared<std::string>();
+    auto query = std::make_shared<std::optional<std::string>>();
     command->add_option("FILE", *file, "The family file")->required();
-    command->callback([&line, file] {
+    command->add_option("--query", *query, "Only the pictures that this query selects, with the columns that it shows");
+    command->callback([&line, file, query] {
+        if (*query) {
+            PrintPictures(PictureTable(line.open(*file).connection(), CommandLine::textOf(**query)), line);
+            return;
+        }
         Listing listing({QStringLiteral("ID"), QStringLiteral("Date"), QStringLiteral("Place"), QStringLiteral("Title"),
                          QStringLiteral("File")});
         for (const PictureRecord& record : ListPictures(line.open(*file).connection())) {

@@ -30,46 +30,12 @@ void AddList(CLI::App& setup, CommandLine& line)
     });
 }
 
-void AddNew(CLI::App& setup, CommandLine& line)
-{
-    auto* command = setup.add_subcommand("new", "Make a setup with default values");
-    auto arguments = AddSetupArguments(*command);
-    command->callback([&line, arguments] {
-        SetupManager manager(arguments->open(line), line.environment());
-        Require(manager.create(arguments->setupName()));
-    });
-}
-
-/// A command that gives a setup or its copy another name.
-void AddNaming(CLI::App& setup, CommandLine& line, const char* name, const char* description,
-               bool (SetupManager::*procedure)(const QString& name, const QString& newName))
-{
-    auto* command = setup.add_subcommand(name, description);
-    auto arguments = AddSetupArguments(*command);
-    auto newName = std::make_shared<std::string>();
-    command->add_option("NEWNAME", *newName, "The new name")->required();
-    command->callback([&line, arguments, newName, procedure] {
-        SetupManager manager(arguments->open(line), line.environment());
-        Require((manager.*procedure)(arguments->setupName(), CommandLine::textOf(*newName)));
-    });
-}
-
-void AddDelete(CLI::App& setup, CommandLine& line)
-{
-    auto* command = setup.add_subcommand("delete", "Delete a setup, after asking");
-    auto arguments = AddSetupArguments(*command);
-    command->callback([&line, arguments] {
-        SetupManager manager(arguments->open(line), line.environment());
-        Require(manager.remove(arguments->setupName()));
-    });
-}
-
 void AddShow(CLI::App& setup, CommandLine& line)
 {
     auto* command = setup.add_subcommand("show", "Show the values of a setup");
-    auto arguments = AddSetupArguments(*command);
+    auto arguments = AddNamedRowArguments(*command, "setup");
     command->callback([&line, arguments] {
-        const SetupEditing editing(arguments->open(line), line.environment(), arguments->setupName());
+        const SetupEditing editing(arguments->open(line), line.environment(), arguments->rowName());
         Listing listing({QStringLiteral("Column"), QStringLiteral("Value")});
         for (const SetupColumn& column : SetupColumns()) {
             listing.row({column.name, editing.settingText(column)});
@@ -83,13 +49,9 @@ void SetColumns(SetupEditing& editing, const std::vector<std::string>& assignmen
 {
     std::vector<WizardPage> touched;
     for (const std::string& assignment : assignments) {
-        const QString text = CommandLine::textOf(assignment);
-        const qsizetype equals = text.indexOf(u'=');
-        if (equals <= 0) {
-            throw CLI::ValidationError("COLUMN=VALUE", "\"" + assignment + "\" is not of the form COLUMN=VALUE");
-        }
-        editing.set(text.left(equals), text.mid(equals + 1));
-        touched.push_back(SetupColumnNamed(text.left(equals)).page);
+        const auto [column, value] = SplitAssignment(assignment);
+        editing.set(column, value);
+        touched.push_back(SetupColumnNamed(column).page);
     }
     for (const WizardPage page : {WizardPage::Step1, WizardPage::General}) {
         if (std::find(touched.begin(), touched.end(), page) != touched.end()) {
@@ -101,14 +63,14 @@ void SetColumns(SetupEditing& editing, const std::vector<std::string>& assignmen
 void AddSet(CLI::App& setup, CommandLine& line)
 {
     auto* command = setup.add_subcommand("set", "Change values of a setup, all or none");
-    auto arguments = AddSetupArguments(*command);
+    auto arguments = AddNamedRowArguments(*command, "setup");
     auto assignments = std::make_shared<std::vector<std::string>>();
     command
         ->add_option("COLUMN=VALUE", *assignments,
                      "Columns as \"setup show\" lists them; EmblemPicture=PATH reads an image")
         ->required();
     command->callback([&line, arguments, assignments] {
-        SetupEditing editing(arguments->open(line), line.environment(), arguments->setupName());
+        SetupEditing editing(arguments->open(line), line.environment(), arguments->rowName());
         SetColumns(editing, *assignments);
         Require(editing.save());
     });
@@ -117,9 +79,9 @@ void AddSet(CLI::App& setup, CommandLine& line)
 void AddCheck(CLI::App& setup, CommandLine& line)
 {
     auto* command = setup.add_subcommand("check", "Say what keeps the pages of a setup from being built");
-    auto arguments = AddSetupArguments(*command);
+    auto arguments = AddNamedRowArguments(*command, "setup");
     command->callback([&line, arguments] {
-        const SetupEditing editing(arguments->open(line), line.environment(), arguments->setupName());
+        const SetupEditing editing(arguments->open(line), line.environment(), arguments->rowName());
         if (const std::optional<Message> failure = CheckSetup(editing.setup())) {
             line.environment().talk.tell(*failure);
             Require(false);
@@ -130,10 +92,10 @@ void AddCheck(CLI::App& setup, CommandLine& line)
 void AddView(CLI::App& setup, CommandLine& line)
 {
     auto* command = setup.add_subcommand("view", "Print where the first of a setup's finished pages is");
-    auto arguments = AddSetupArguments(*command);
+    auto arguments = AddNamedRowArguments(*command, "setup");
     command->callback([&line, arguments] {
         const std::optional<QString> page =
-            FindPagesToView(arguments->open(line), arguments->setupName(), line.environment().talk);
+            FindPagesToView(arguments->open(line), arguments->rowName(), line.environment().talk);
         Require(page.has_value());
         line.out() << *page << Qt::endl;
     });
@@ -141,23 +103,12 @@ void AddView(CLI::App& setup, CommandLine& line)
 
 } // namespace
 
-std::shared_ptr<SetupArguments> AddSetupArguments(CLI::App& command)
-{
-    auto arguments = std::make_shared<SetupArguments>();
-    command.add_option("FILE", arguments->file, "The family file")->required();
-    command.add_option("NAME", arguments->name, "The name of the setup")->required();
-    return arguments;
-}
-
 void AddSetupCommands(CLI::App& app, CommandLine& line)
 {
     auto* setup = app.add_subcommand("setup", "Manage web site setups");
     setup->require_subcommand(1);
     AddList(*setup, line);
-    AddNew(*setup, line);
-    AddNaming(*setup, line, "clone", "Copy a setup under a new name", &SetupManager::clone);
-    AddNaming(*setup, line, "rename", "Give a setup a new name", &SetupManager::rename);
-    AddDelete(*setup, line);
+    AddNamedRowCommands(*setup, line, "setup", Make<SetupManager>);
     AddShow(*setup, line);
     AddSet(*setup, line);
     AddCheck(*setup, line);

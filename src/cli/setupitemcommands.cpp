@@ -73,7 +73,7 @@ void ApplyOptions(ItemSelection& selection, int row, const GivenOptions& given)
 class ItemCommands
 {
 public:
-    ItemCommands(CLI::App& items, CommandLine& line, std::shared_ptr<SetupArguments> arguments)
+    ItemCommands(CLI::App& items, CommandLine& line, std::shared_ptr<NamedRowArguments> arguments)
         : m_items(items), m_line(line), m_arguments(std::move(arguments))
     {
     }
@@ -145,7 +145,7 @@ public:
 private:
     ItemSelection open() const
     {
-        return {m_arguments->open(m_line), m_line.environment().talk, m_arguments->setupName()};
+        return {m_arguments->open(m_line), m_line.environment().talk, m_arguments->rowName()};
     }
 
     template <typename Change>
@@ -158,7 +158,7 @@ private:
 
     CLI::App& m_items;
     CommandLine& m_line;
-    std::shared_ptr<SetupArguments> m_arguments;
+    std::shared_ptr<NamedRowArguments> m_arguments;
 };
 
 } // namespace
@@ -167,7 +167,7 @@ void AddSetupItemCommands(CLI::App& setup, CommandLine& line)
 {
     auto* items = setup.add_subcommand("items", "List and change the items that a setup includes");
     items->require_subcommand(1);
-    const ItemCommands commands(*items, line, AddSetupArguments(*items));
+    const ItemCommands commands(*items, line, AddNamedRowArguments(*items, "setup"));
     commands.addList();
     commands.addCatalogue();
     commands.addAdd();

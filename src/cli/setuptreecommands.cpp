@@ -48,11 +48,11 @@ void ApplyOptions(SetupEditing& editing, const TreeOptions& options)
     Require(editing.save());
 }
 
-void AddList(CLI::App& tree, CommandLine& line, const std::shared_ptr<SetupArguments>& arguments)
+void AddList(CLI::App& tree, CommandLine& line, const std::shared_ptr<NamedRowArguments>& arguments)
 {
     auto* command = tree.add_subcommand("list", "List the trees of the setup");
     command->callback([&line, arguments] {
-        SetupEditing editing(arguments->open(line), line.environment(), arguments->setupName());
+        SetupEditing editing(arguments->open(line), line.environment(), arguments->rowName());
         Listing listing({QStringLiteral("N"), QStringLiteral("Head"), QStringLiteral("Name"), QStringLiteral("Display"),
                          QStringLiteral("Icon")});
         for (const TreeDefinition& definition : editing.trees().definitions()) {
@@ -63,19 +63,19 @@ void AddList(CLI::App& tree, CommandLine& line, const std::shared_ptr<SetupArgum
     });
 }
 
-void AddAdd(CLI::App& tree, CommandLine& line, const std::shared_ptr<SetupArguments>& arguments)
+void AddAdd(CLI::App& tree, CommandLine& line, const std::shared_ptr<NamedRowArguments>& arguments)
 {
     auto* command = tree.add_subcommand("add", "Add a tree (the first one takes the place of the tree without a head)");
     auto options = std::make_shared<TreeOptions>();
     AddTreeOptions(*command, *options)->required();
     command->callback([&line, arguments, options] {
-        SetupEditing editing(arguments->open(line), line.environment(), arguments->setupName());
+        SetupEditing editing(arguments->open(line), line.environment(), arguments->rowName());
         editing.trees().addOrFillFirst();
         ApplyOptions(editing, *options);
     });
 }
 
-void AddEdit(CLI::App& tree, CommandLine& line, const std::shared_ptr<SetupArguments>& arguments)
+void AddEdit(CLI::App& tree, CommandLine& line, const std::shared_ptr<NamedRowArguments>& arguments)
 {
     auto* command = tree.add_subcommand("edit", "Change a tree");
     auto options = std::make_shared<TreeOptions>();
@@ -85,19 +85,19 @@ void AddEdit(CLI::App& tree, CommandLine& line, const std::shared_ptr<SetupArgum
         if (!options->head && !options->icon && options->display.empty()) {
             throw CLI::RequiredError("One of --head, --display and --icon");
         }
-        SetupEditing editing(arguments->open(line), line.environment(), arguments->setupName());
+        SetupEditing editing(arguments->open(line), line.environment(), arguments->rowName());
         editing.trees().edit(options->number);
         ApplyOptions(editing, *options);
     });
 }
 
-void AddDelete(CLI::App& tree, CommandLine& line, const std::shared_ptr<SetupArguments>& arguments)
+void AddDelete(CLI::App& tree, CommandLine& line, const std::shared_ptr<NamedRowArguments>& arguments)
 {
     auto* command = tree.add_subcommand("delete", "Delete a tree, after asking");
     auto options = std::make_shared<TreeOptions>();
     AddNumber(*command, *options);
     command->callback([&line, arguments, options] {
-        SetupEditing editing(arguments->open(line), line.environment(), arguments->setupName());
+        SetupEditing editing(arguments->open(line), line.environment(), arguments->rowName());
         Require(editing.trees().remove(options->number));
         Require(editing.save());
     });
@@ -109,7 +109,7 @@ void AddSetupTreeCommands(CLI::App& setup, CommandLine& line)
 {
     auto* tree = setup.add_subcommand("tree", "List and change the trees of a setup");
     tree->require_subcommand(1);
-    const std::shared_ptr<SetupArguments> arguments = AddSetupArguments(*tree);
+    const std::shared_ptr<NamedRowArguments> arguments = AddNamedRowArguments(*tree, "setup");
     AddList(*tree, line, arguments);
     AddAdd(*tree, line, arguments);
     AddEdit(*tree, line, arguments);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "web/setup.h"
 
-#include "base/error.h"
 #include "base/text.h"
+#include "store/engine/schema.h"
 
 #include <utility>
 
@@ -15,23 +15,22 @@ QString NameInSql(QString name)
     return name.replace(u'\'', QStringLiteral("''"));
 }
 
+const NamedRowKind& SetupKind()
+{
+    // Renaming stores the name with a blank after it in a column of the usual length.
+    static const NamedRowKind kind = {QStringLiteral("web site setup"), QStringLiteral("WebSiteInfo"),
+                                      QStringLiteral("SetupName"), maxTextLength - 1};
+    return kind;
+}
+
 std::optional<SetupRow> FindSetup(Connection& connection, const QString& name)
 {
-    Statement statement = connection.prepare(QStringLiteral("SELECT SetupName, rowid FROM WebSiteInfo ORDER BY rowid"));
-    while (statement.step()) {
-        if (QString stored = statement.text(0); SameName(stored, name)) {
-            return SetupRow{std::move(stored), statement.integer64(1)};
-        }
-    }
-    return std::nullopt;
+    return FindNamedRow(connection, SetupKind(), name);
 }
 
 SetupRow RequireSetup(Connection& connection, const QString& name)
 {
-    if (std::optional<SetupRow> found = FindSetup(connection, name)) {
-        return *std::move(found);
-    }
-    throw Error(QStringLiteral("There is no web site setup named \"%1\".").arg(name));
+    return RequireNamedRow(connection, SetupKind(), name);
 }
 
 std::vector<TreeDefinition> LoadTreeDefinitions(Connection& connection, const QString& setupName)

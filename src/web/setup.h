@@ -3,6 +3,7 @@
 #pragma once
 
 #include "store/engine/connection.h"
+#include "store/file/namedrows.h"
 #include "web/selecteditem.h"
 
 #include <QtCore/QString>
@@ -11,7 +12,8 @@
 #include <vector>
 
 /// A web site setup as it is read from the family file: its WebSiteInfo row, its tree definitions and its items.
-/// Changing setups is setupmanager.h's. Fails as the engine fails. Stands on the connection.
+/// Changing setups is setupmanager.h's. Fails as the engine fails. Stands on
+/// store/file/namedrows.h.
 namespace stemwright
 {
 
@@ -54,10 +56,10 @@ struct Setup {
 };
 
 /// Where a setup stands in WebSiteInfo, and its name as stored there.
-struct SetupRow {
-    QString name;
-    qint64 row = 0;
-};
+using SetupRow = NamedRow;
+
+/// Setups as rows that the user keeps under names.
+const NamedRowKind& SetupKind();
 
 /// The name as it stands between the single quotes of a statement's text, its own quotes doubled.
 QString NameInSql(QString name);

@@ -3,7 +3,7 @@
 #include "web/setupcolumns.h"
 
 #include "base/error.h"
-#include "store/engine/schema.h"
+#include "store/file/typedvalues.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QStringList>
@@ -45,31 +45,6 @@ std::vector<SetupColumn> MakeSetupColumns()
     };
 }
 
-int ParseNumber(const SetupColumn& column, const QString& typed)
-{
-    bool isNumber = false;
-    const int number = typed.trimmed().toInt(&isNumber);
-    if (!isNumber || number < column.lowest || number > column.highest) {
-        throw Error(QStringLiteral("%1 must be a whole number from %2 to %3, not \"%4\".")
-                        .arg(column.name)
-                        .arg(column.lowest)
-                        .arg(column.highest)
-                        .arg(typed));
-    }
-    return number;
-}
-
-bool ParseYesNo(const SetupColumn& column, const QString& typed)
-{
-    const QString word = typed.trimmed().toLower();
-    const QStringList yes = {QStringLiteral("1"), QStringLiteral("-1"), QStringLiteral("yes"), QStringLiteral("true")};
-    const QStringList no = {QStringLiteral("0"), QStringLiteral("no"), QStringLiteral("false")};
-    if (!yes.contains(word) && !no.contains(word)) {
-        throw Error(QStringLiteral("%1 must be yes or no (1 or 0), not \"%2\".").arg(column.name, typed));
-    }
-    return yes.contains(word);
-}
-
 int ParseColour(const SetupColumn& column, const QString& typed)
 {
     constexpr int hexadecimalDigits = 6;
@@ -90,17 +65,6 @@ int ParseColour(const SetupColumn& column, const QString& typed)
     return colour;
 }
 
-QString ParseText(const SetupColumn& column, const QString& typed)
-{
-    if (typed.size() > maxTextLength) {
-        throw Error(QStringLiteral("%1 can hold %2 characters, but the text has %3.")
-                        .arg(column.name)
-                        .arg(maxTextLength)
-                        .arg(typed.size()));
-    }
-    return typed;
-}
-
 /// Whether a path of an earlier release, which ran on Windows, is a full one.
 bool IsFullWindowsPath(const QString& path)
 {
@@ -112,7 +76,7 @@ QString ParseFolder(const SetupColumn& column, const QString& typed)
     if (typed.trimmed().isEmpty()) {
         throw Error(QStringLiteral("%1 must name the folder for the pages; it cannot be empty.").arg(column.name));
     }
-    return ParseText(column, IsFullWindowsPath(typed) ? typed : QDir::cleanPath(QDir(typed).absolutePath()));
+    return ParseTypedText(column.name, IsFullWindowsPath(typed) ? typed : QDir::cleanPath(QDir(typed).absolutePath()));
 }
 
 QString ParseFileType(const SetupColumn& column, const QString& typed)
@@ -122,7 +86,7 @@ QString ParseFileType(const SetupColumn& column, const QString& typed)
         throw Error(QStringLiteral("%1 must be a file name extension such as gif, without the dot, not \"%2\".")
                         .arg(column.name, typed));
     }
-    return ParseText(column, typed);
+    return ParseTypedText(column.name, typed);
 }
 
 } // namespace
@@ -150,11 +114,11 @@ std::variant<int, QString> ParseSetting(const SetupColumn& column, const QString
 {
     switch (column.kind) {
     case SettingKind::YesNo:
-        return ParseYesNo(column, typed) ? -1 : 0;
+        return ParseTypedYesNo(column.name, typed) ? -1 : 0;
     case SettingKind::Switch:
-        return ParseYesNo(column, typed) ? 1 : 0;
+        return ParseTypedYesNo(column.name, typed) ? 1 : 0;
     case SettingKind::Number:
-        return ParseNumber(column, typed);
+        return ParseTypedNumber(column.name, typed, column.lowest, column.highest);
     case SettingKind::Colour:
         return ParseColour(column, typed);
     case SettingKind::Folder:
@@ -162,7 +126,7 @@ std::variant<int, QString> ParseSetting(const SetupColumn& column, const QString
     case SettingKind::FileType:
         return ParseFileType(column, typed);
     case SettingKind::Text:
-        return ParseText(column, typed);
+        return ParseTypedText(column.name, typed);
     case SettingKind::Memo:
     case SettingKind::Image:
         break;

@@ -34,9 +34,8 @@ QMimeType ImageTypeOf(const QString& path)
 
 SetupEditing::SetupEditing(Connection& connection, Environment& environment, const QString& setupName)
     : m_connection(connection), m_environment(environment), m_row(RequireSetup(connection, setupName)),
-      m_trees(connection, environment, m_row.name)
+      m_trees(connection, environment, m_row.name), m_changes(connection)
 {
-    m_changes.emplace(m_connection);
 }
 
 Setup SetupEditing::setup() const
@@ -110,23 +109,12 @@ bool SetupEditing::leavePage(WizardPage page)
 
 bool SetupEditing::save()
 {
-    try {
-        m_changes->commit();
-        m_changes.emplace(m_connection);
-        return true;
-    } catch (const std::exception& exception) {
-        m_environment.talk.tell(setupmessages::SetupFailed(ErrorText(exception)));
-        return false;
-    }
+    return m_changes.save(m_environment.talk, setupmessages::SetupFailed);
 }
 
 bool SetupEditing::cancel()
 {
-    if (m_environment.talk.ask(setupmessages::LoseChanges()) != Button::Yes) {
-        return false;
-    }
-    m_changes.reset();
-    return true;
+    return m_changes.cancel(m_environment.talk, setupmessages::LoseChanges());
 }
 
 } // namespace stemwright

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "store/file/pendingchanges.h"
 #include "web/setupcolumns.h"
 #include "web/treeediting.h"
-
-#include <optional>
 
 /// One setup while it is being edited, by the wizard, the command line or a test. Each change is written to its column
 /// at once, within a transaction that save() commits; whatever was not saved is undone when the object goes. Refused
@@ -47,7 +46,7 @@ private:
     Environment& m_environment;
     SetupRow m_row;
     TreeEditing m_trees;
-    std::optional<Transaction> m_changes;
+    PendingChanges m_changes;
 };
 
 } // namespace stemwright

@@ -7,55 +7,33 @@
 #include "web/setup.h"
 
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 
-/// The setups of a family file: listed, made, cloned, renamed and deleted. Every procedure that returns a truth value
-/// is a catch boundary and one action: it tells the user once why it did nothing, and returns false. Stands on setup.h
-/// and the default rows of store/file.
+/// The setups of a family file: listed, made, cloned, renamed and deleted, with their trees and items. Stands on
+/// setup.h and on the default rows and the managing of named rows of store/file.
 namespace stemwright
 {
 
 /// How the wizard was called: for a setup that was just made, or for one that stood there.
 enum class WizardMode { New, Edit };
 
-class SetupManager
+/// Clones get everything that the other setup holds but its output folder.
+class SetupManager : public NamedRowManager
 {
 public:
     SetupManager(Connection& connection, Environment& environment);
-
-    /// All setups by name.
-    QStringList names();
-
-    /// The setup that is chosen in the list; empty when there is none. At first the first one of the list.
-    const QString& selected() const { return m_selected; }
 
     /// Chooses a setup and calls for it to be edited. Throws Error when there is none with this name.
     void select(const QString& name);
 
     WizardMode wizardMode() const { return m_wizardMode; }
 
-    /// Makes a setup with the default values, items and tree, and selects it.
-    bool create(const QString& typedName);
-    /// Makes a setup with everything that another one holds but its output folder, and selects it.
-    bool clone(const QString& source, const QString& typedName);
-
-    /// Asks for the new name of a setup and gives it. An empty answer does nothing.
-    bool rename(const QString& name);
-    bool rename(const QString& name, const QString& typedName);
-
-    /// Deletes a setup after asking and selects the next one, or the first one after the last.
-    bool remove(const QString& name);
-
 private:
-    bool isFree(const QString& name);
-    void selectNew(const QString& name);
-    void erase(const SetupRow& setup);
-    template <typename Action>
-    bool perform(Action action);
+    void writeNew(const QString& name) override;
+    void writeClone(const NamedRow& source, const QString& name) override;
+    void giveName(const NamedRow& setup, const QString& name) override;
+    void erase(const NamedRow& setup) override;
+    void requireUsableName(const QString& name) const override;
 
-    Connection& m_connection;
-    Environment& m_environment;
-    QString m_selected;
     WizardMode m_wizardMode = WizardMode::Edit;
 };
 

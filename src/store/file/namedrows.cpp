@@ -1,0 +1,219 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "store/file/namedrows.h"
+
+#include "base/error.h"
+#include "base/text.h"
+
+namespace stemwright
+{
+
+namespace
+{
+
+QString Quoted(const QString& name)
+{
+    return u'"' + name + u'"';
+}
+
+QStringList ColumnsOf(Connection& connection, const QString& table)
+{
+    const Statement statement = connection.prepare(QStringLiteral("SELECT * FROM %1 LIMIT 0").arg(table));
+    QStringList columns;
+    for (int column = 0; column < statement.columnCount(); ++column) {
+        columns << statement.columnName(column);
+    }
+    return columns;
+}
+
+void RequireStorableName(const NamedRowKind& kind, const QString& name)
+{
+    const auto isControl = [](QChar character) { return character.category() == QChar::Other_Control; };
+    if (std::any_of(name.begin(), name.end(), isControl)) {
+        throw Error(
+            QStringLiteral("The name of a %1 cannot hold line breaks or other control characters.").arg(kind.caption));
+    }
+    if (name.size() > kind.maxNameLength) {
+        throw Error(QStringLiteral("The name of a %1 can have at most %2 characters; this one has %3.")
+                        .arg(kind.caption)
+                        .arg(kind.maxNameLength)
+                        .arg(name.size()));
+    }
+}
+
+} // namespace
+
+std::optional<NamedRow> FindNamedRow(Connection& connection, const NamedRowKind& kind, const QString& name)
+{
+    Statement statement =
+        connection.prepare(QStringLiteral("SELECT %1, rowid FROM %2 ORDER BY rowid").arg(kind.nameColumn, kind.table));
+    while (statement.step()) {
+        if (QString stored = statement.text(0); SameName(stored, name)) {
+            return NamedRow{std::move(stored), statement.integer64(1)};
+        }
+    }
+    return std::nullopt;
+}
+
+NamedRow RequireNamedRow(Connection& connection, const NamedRowKind& kind, const QString& name)
+{
+    if (std::optional<NamedRow> found = FindNamedRow(connection, kind, name)) {
+        return *std::move(found);
+    }
+    throw Error(QStringLiteral("There is no %1 named \"%2\".").arg(kind.caption, name));
+}
+
+void CloneRow(Connection& connection, const QString& table, qint64 sourceRow,
+              const std::vector<std::pair<QString, QString>>& others)
+{
+    QStringList columns;
+    QStringList values;
+    for (const QString& column : ColumnsOf(connection, table)) {
+        const auto other = std::find_if(others.begin(), others.end(), [&column](const auto& entry) {
+            return column.compare(entry.first, Qt::CaseInsensitive) == 0;
+        });
+        columns << Quoted(column);
+        values << (other == others.end() ? Quoted(column)
+                                         : QStringLiteral("?%1").arg(std::distance(others.begin(), other) + 2));
+    }
+    Statement statement = connection.prepare(QStringLiteral("INSERT INTO %1 (%2) SELECT %3 FROM %1 WHERE rowid = ?1")
+                                                 .arg(table, columns.join(u','), values.join(u',')));
+    statement.bind(1, sourceRow);
+    for (std::size_t index = 0; index < others.size(); ++index) {
+        statement.bind(static_cast<int>(index) + 2, others[index].second);
+    }
+    statement.run();
+}
+
+NamedRowManager::NamedRowManager(Connection& connection, Environment& environment, NamedRowKind kind,
+                                 NamedRowTexts texts)
+    : m_connection(connection), m_environment(environment), m_kind(std::move(kind)), m_texts(texts),
+      m_selected(names().value(0))
+{
+}
+
+QStringList NamedRowManager::names()
+{
+    Statement statement = m_connection.prepareJet(
+        QStringLiteral("SELECT %1 FROM %2 ORDER BY %1 ASC").arg(m_kind.nameColumn, m_kind.table));
+    QStringList names;
+    while (statement.step()) {
+        names << statement.text(0);
+    }
+    return names;
+}
+
+void NamedRowManager::selectRow(const QString& name)
+{
+    m_selected = RequireNamedRow(m_connection, m_kind, name).name;
+}
+
+/// Runs an action as one transaction; false when it fails, after telling why, and when it returns false itself.
+template <typename Action>
+bool NamedRowManager::perform(Action action)
+{
+    try {
+        Transaction transaction(m_connection);
+        if (!action()) {
+            return false;
+        }
+        transaction.commit();
+        return true;
+    } catch (const std::exception& exception) {
+        m_environment.talk.tell(m_texts.failure(ErrorText(exception)));
+        return false;
+    }
+}
+
+/// Whether a row can get this name; otherwise the user was told why not. Throws Error for a name that none can have.
+bool NamedRowManager::isFree(const QString& name)
+{
+    if (name.isEmpty()) {
+        m_environment.talk.tell(m_texts.noName());
+        return false;
+    }
+    if (FindNamedRow(m_connection, m_kind, name)) {
+        m_environment.talk.tell(m_texts.duplicateName(name));
+        return false;
+    }
+    RequireStorableName(m_kind, name);
+    requireUsableName(name);
+    return true;
+}
+
+bool NamedRowManager::create(const QString& typedName)
+{
+    const QString name = typedName.trimmed();
+    return perform([&] {
+        if (!isFree(name)) {
+            return false;
+        }
+        writeNew(name);
+        m_selected = name;
+        return true;
+    });
+}
+
+bool NamedRowManager::clone(const QString& source, const QString& typedName)
+{
+    const QString name = typedName.trimmed();
+    return perform([&] {
+        if (!isFree(name)) {
+            return false;
+        }
+        writeClone(RequireNamedRow(m_connection, m_kind, source), name);
+        m_selected = name;
+        return true;
+    });
+}
+
+bool NamedRowManager::rename(const QString& name)
+{
+    const QString typed = m_environment.talk.input(m_texts.newName()).value_or(QString());
+    return !typed.trimmed().isEmpty() && rename(name, typed);
+}
+
+bool NamedRowManager::rename(const QString& name, const QString& typedName)
+{
+    const QString newName = typedName.trimmed();
+    return perform([&] {
+        if (!isFree(newName)) {
+            return false;
+        }
+        giveName(RequireNamedRow(m_connection, m_kind, name), newName);
+        m_selected = newName;
+        return true;
+    });
+}
+
+bool NamedRowManager::remove(const QString& name)
+{
+    return perform([&] {
+        const NamedRow row = RequireNamedRow(m_connection, m_kind, name);
+        if (m_environment.talk.ask(m_texts.confirmDelete(row.name)) != Button::Yes) {
+            return false;
+        }
+        const qsizetype place = names().indexOf(row.name);
+        erase(row);
+        const QStringList remaining = names();
+        m_selected = remaining.value(place < remaining.size() ? place : 0);
+        return true;
+    });
+}
+
+void NamedRowManager::giveName(const NamedRow& row, const QString& name)
+{
+    Statement statement = m_connection.prepare(
+        QStringLiteral("UPDATE %1 SET %2 = ?1 WHERE rowid = ?2").arg(m_kind.table, m_kind.nameColumn));
+    statement.bind(1, name).bind(2, row.row).run();
+}
+
+void NamedRowManager::erase(const NamedRow& row)
+{
+    Statement statement = m_connection.prepare(QStringLiteral("DELETE FROM %1 WHERE rowid = ?1").arg(m_kind.table));
+    statement.bind(1, row.row).run();
+}
+
+void NamedRowManager::requireUsableName(const QString&) const {}
+
+} // namespace stemwright
