@@ -14,7 +14,15 @@ struct ExportArguments {
     std::string target;
     std::optional<std::string> query;
     std::string delimiter = tabDelimiter.toStdString();
-    TextEncoding encoding = TextEncoding::System;
+    std::string encoding = "system";
+
+    TextEncoding textEncoding() const
+    {
+        const QString name = CommandLine::textOf(encoding).toLower();
+        return name == u"utf-8"          ? TextEncoding::Utf8
+               : name == u"windows-1252" ? TextEncoding::Windows1252
+                                         : TextEncoding::System;
+    }
 };
 
 /// The list of the named query, or, without a name, of the one in use.
@@ -37,17 +45,17 @@ void AddExportCommands(CLI::App& app, CommandLine& line)
     command->add_option("FILE", arguments->file, "The family file")->required();
     command->add_option("OUT", arguments->target, "The text file to write")->required();
     command->add_option("--query", arguments->query, "The query that selects the pictures; else the one last run");
-    command->add_option("--delimiter", arguments->delimiter, "What stands between the columns; \"<tab>\" for a tab")
+    command
+        ->add_option("--delimiter", arguments->delimiter,
+                     "What stands between the columns, usually one of " + OfferedDelimiters().join(u' ').toStdString())
         ->capture_default_str();
-    const std::map<std::string, TextEncoding> encodings = {
-        {"system", TextEncoding::System}, {"utf-8", TextEncoding::Utf8}, {"windows-1252", TextEncoding::Windows1252}};
     command->add_option("--encoding", arguments->encoding, "The encoding of the file: system, utf-8 or windows-1252")
-        ->transform(CLI::CheckedTransformer(encodings, CLI::ignore_case).description(""));
+        ->check(CLI::IsMember({"system", "utf-8", "windows-1252"}, CLI::ignore_case));
     command->callback([&line, arguments] {
         Connection& connection = line.open(arguments->file).connection();
         const PictureTable table = TableOf(connection, line, arguments->query);
         const TableExport wanted{CommandLine::pathOf(arguments->target), CommandLine::textOf(arguments->delimiter),
-                                 arguments->encoding};
+                                 arguments->textEncoding()};
         Require(ExportTableAsText(table, wanted, connection.path(), line.environment().talk));
     });
 }

@@ -3,6 +3,7 @@
 #include "cli/listing.h"
 #include "cli/namedrowcommands.h"
 #include "cli/picturelisting.h"
+#include "queries/messages.h"
 #include "queries/queryediting.h"
 #include "queries/querymanager.h"
 
@@ -96,6 +97,7 @@ void AddQueryCommands(CLI::App& app, CommandLine& line)
 {
     auto* query = app.add_subcommand("query", "Manage picture list queries");
     query->require_subcommand(1);
+    query->footer(querymessages::QueryListExplanation().toStdString());
     AddList(*query, line);
     AddNamedRowCommands(*query, line, "query", Make<QueryManager>);
     AddShow(*query, line);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "export/encodedtext.h"
 
+#include <QtCore/QStringConverter>
+
 namespace stemwright
 {
 
@@ -23,13 +25,12 @@ QStringEncoder EncoderOf(TextEncoding encoding)
 
 } // namespace
 
-EncodedText::EncodedText(TextEncoding encoding) : m_encoder(EncoderOf(encoding)) {}
-
 bool EncodedText::writeLine(const QString& line)
 {
-    m_encoder.resetState();
-    const QByteArray encoded = m_encoder.encode(line + QStringLiteral("\r\n"));
-    if (m_encoder.hasError()) {
+    // A converter that met a character which it does not know has to be made anew.
+    QStringEncoder encoder = EncoderOf(m_encoding);
+    const QByteArray encoded = encoder.encode(line + QStringLiteral("\r\n"));
+    if (encoder.hasError()) {
         return false;
     }
     m_bytes += encoded;

@@ -4,7 +4,6 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
-#include <QtCore/QStringConverter>
 
 /// A text file in the making: lines ended by carriage return and line feed, in one of the encodings that other programs
 /// read. Nothing here fails. Stands on Qt's converters.
@@ -21,7 +20,7 @@ enum class TextEncoding {
 class EncodedText
 {
 public:
-    explicit EncodedText(TextEncoding encoding);
+    explicit EncodedText(TextEncoding encoding) : m_encoding(encoding) {}
 
     /// Appends a line. False, with nothing appended, when it has a character that the encoding does not know.
     bool writeLine(const QString& line);
@@ -29,7 +28,7 @@ public:
     const QByteArray& bytes() const { return m_bytes; }
 
 private:
-    QStringEncoder m_encoder;
+    TextEncoding m_encoding;
     QByteArray m_bytes;
 };
 

@@ -19,8 +19,11 @@ namespace
 void RequireFileName(const QFileInfo& file, const QString& familyFile)
 {
     const QString shown = QDir::toNativeSeparators(file.filePath());
+    if (shown.isEmpty()) {
+        throw Error(QStringLiteral("Please give the name of the output file."));
+    }
     if (file.fileName().isEmpty() || file.isDir()) {
-        throw Error(QStringLiteral("\"%1\" is a folder. Please give the name of a file in it.").arg(shown));
+        throw Error(QStringLiteral("%1 is a folder. Please give the name of a file in it.").arg(shown));
     }
     if ((file.exists() && !file.isFile()) || IsSameFile(file.filePath(), familyFile)) {
         throw Error(QStringLiteral("%1 cannot be replaced by a text file.").arg(shown));

@@ -121,7 +121,8 @@ void QueryEditing::write(const ColumnDefinition& column, const QString& stored)
 /// The encoded form of a picture date bound, a null text for none; no value after the user was told what is wrong.
 std::optional<QString> QueryEditing::pickedDate(const QString& typed)
 {
-    static const QRegularExpression encodedForm(QStringLiteral(R"(^\s*(\d{8}[0129])\s*$)"));
+    static const QRegularExpression encodedForm(
+        QStringLiteral(R"(^\s*(\d{4}(?:0\d|1[0-2]|99(?=..9))(?:[0-2]\d|3[01]|99(?=9))[0129])\s*$)"));
     DatePicker picker;
     const QRegularExpressionMatch encoded = encodedForm.match(typed);
     if (encoded.hasMatch()) {

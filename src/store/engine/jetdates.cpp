@@ -52,7 +52,7 @@ QString IsoDate(const QString& literal)
     const QDate date = match.hasMatch() ? DateOf(match) : QDate();
     const QTime time = match.hasMatch() ? TimeOf(match) : QTime();
     if (!date.isValid() || !time.isValid()) {
-        throw Error(QStringLiteral("The query cannot be understood: %1 is not a date.").arg(literal));
+        throw Error(QStringLiteral("The query cannot be understood: \"%1\" is not a date.").arg(literal));
     }
     return date.toString(Qt::ISODate) + u'T' + time.toString(Qt::ISODate);
 }
