@@ -141,30 +141,30 @@ bool NamedRowManager::isFree(const QString& name)
     return true;
 }
 
-bool NamedRowManager::create(const QString& typedName)
+/// Does what gives a row this name and selects it, if the name is free.
+template <typename Write>
+bool NamedRowManager::give(const QString& typedName, Write write)
 {
     const QString name = typedName.trimmed();
     return perform([&] {
         if (!isFree(name)) {
             return false;
         }
-        writeNew(name);
+        write(name);
         m_selected = name;
         return true;
     });
 }
 
+bool NamedRowManager::create(const QString& typedName)
+{
+    return give(typedName, [this](const QString& name) { writeNew(name); });
+}
+
 bool NamedRowManager::clone(const QString& source, const QString& typedName)
 {
-    const QString name = typedName.trimmed();
-    return perform([&] {
-        if (!isFree(name)) {
-            return false;
-        }
-        writeClone(RequireNamedRow(m_connection, m_kind, source), name);
-        m_selected = name;
-        return true;
-    });
+    return give(typedName,
+                [&](const QString& name) { writeClone(RequireNamedRow(m_connection, m_kind, source), name); });
 }
 
 bool NamedRowManager::rename(const QString& name)
@@ -175,15 +175,8 @@ bool NamedRowManager::rename(const QString& name)
 
 bool NamedRowManager::rename(const QString& name, const QString& typedName)
 {
-    const QString newName = typedName.trimmed();
-    return perform([&] {
-        if (!isFree(newName)) {
-            return false;
-        }
-        giveName(RequireNamedRow(m_connection, m_kind, name), newName);
-        m_selected = newName;
-        return true;
-    });
+    return give(typedName,
+                [&](const QString& newName) { giveName(RequireNamedRow(m_connection, m_kind, name), newName); });
 }
 
 bool NamedRowManager::remove(const QString& name)

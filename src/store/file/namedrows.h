@@ -104,6 +104,8 @@ private:
     bool isFree(const QString& name);
     template <typename Action>
     bool perform(Action action);
+    template <typename Write>
+    bool give(const QString& typedName, Write write);
 
     Connection& m_connection;
     Environment& m_environment;
