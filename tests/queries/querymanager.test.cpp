@@ -13,8 +13,8 @@ namespace stemwright::test
 namespace
 {
 
-const QString initial = QStringLiteral("Initial");
-const QString zoo = QStringLiteral("Zoo");
+const QString initial = "Initial";
+const QString zoo = "Zoo";
 
 class QueryManagerTest : public testing::Test
 {
@@ -24,7 +24,7 @@ protected:
     /// The query's row without its name, to see that two are alike.
     QString values(const QString& name)
     {
-        const PictureQuery query(world.connection, RequireQuery(world.connection, name));
+        const PictureQuery query(world.connection(), RequireQuery(world.connection(), name));
         QString text;
         for (const QString& column : QueryEditing::columns()) {
             text += column + u'=' + query.text(column) + u' ';
@@ -33,41 +33,38 @@ protected:
     }
 
     QueryWorld world;
-    QueryManager manager{world.connection, world.environment};
+    QueryManager manager{world.connection(), world.environment};
 };
 
 } // namespace
 
 TEST_F(QueryManagerTest, KeepsTheListOfQueries)
 {
-    EXPECT_EQ(names(), QStringList({QStringLiteral("élan"), initial, zoo}));
+    EXPECT_EQ(names(), QStringList({"élan", initial, zoo}));
     EXPECT_EQ(manager.selected(), initial);
-    world.change(QStringLiteral("IndiFilter = -1, IndiId = 3, WithDescs = -1, TitleSort = 2"));
+    world.change("IndiFilter = -1, IndiId = 3, WithDescs = -1, TitleSort = 2");
 
-    EXPECT_TRUE(manager.clone(initial, QStringLiteral(" Beach's ")));
-    EXPECT_EQ(manager.selected(), QStringLiteral("Beach's"));
-    EXPECT_EQ(values(QStringLiteral("beach's")), values(initial));
-    EXPECT_TRUE(manager.create(QStringLiteral("New")));
-    EXPECT_TRUE(values(QStringLiteral("New")).contains(QStringLiteral("IdSort=1 IdSortOrder=1 PicDateShow=-1")));
+    EXPECT_TRUE(manager.clone(initial, " Beach's "));
+    EXPECT_EQ(manager.selected(), "Beach's");
+    EXPECT_EQ(values("beach's"), values(initial));
+    EXPECT_TRUE(manager.create("New"));
+    EXPECT_TRUE(values("New").contains("IdSort=1 IdSortOrder=1 PicDateShow=-1"));
 
-    world.talk.expectInput(QStringLiteral("Renaming Query"), QStringLiteral("Newer"));
-    EXPECT_TRUE(manager.rename(QStringLiteral("New")));
-    EXPECT_EQ(manager.selected(), QStringLiteral("Newer"));
+    world.talk.expectInput("Renaming Query", "Newer");
+    EXPECT_TRUE(manager.rename("New"));
+    EXPECT_EQ(manager.selected(), "Newer");
 
-    EXPECT_TRUE(manager.run(QStringLiteral("ZOO")));
+    EXPECT_TRUE(manager.run("ZOO"));
     EXPECT_EQ(world.defaultQuery(), zoo);
-    EXPECT_EQ(QueryManager(world.connection, world.environment).selected(), zoo);
-    world.talk.expect(QStringLiteral("Picture List Query"));
-    EXPECT_FALSE(manager.run(QStringLiteral("None")));
+    EXPECT_EQ(QueryManager(world.connection(), world.environment).selected(), zoo);
+    world.talk.expect("Picture List Query");
+    EXPECT_FALSE(manager.run("None"));
 
-    const QString question = QStringLiteral("Confirm Query Delete");
+    const QString question = "Confirm Query Delete";
     world.talk.expect(question, Button::No);
     EXPECT_FALSE(manager.remove(zoo));
-    const std::pair<QString, QString> deletions[] = {{QStringLiteral("Beach's"), QStringLiteral("élan")},
-                                                     {zoo, QStringLiteral("élan")},
-                                                     {QStringLiteral("élan"), initial},
-                                                     {initial, QStringLiteral("Newer")},
-                                                     {QStringLiteral("Newer"), {}}};
+    const std::pair<QString, QString> deletions[] = {
+        {"Beach's", "élan"}, {zoo, "élan"}, {"élan", initial}, {initial, "Newer"}, {"Newer", {}}};
     for (const auto& [name, next] : deletions) {
         world.talk.expect(question, Button::Yes);
         EXPECT_TRUE(manager.remove(name));
@@ -77,101 +74,74 @@ TEST_F(QueryManagerTest, KeepsTheListOfQueries)
 
 TEST_F(QueryManagerTest, RefusesNamesWithoutChangingAnything)
 {
-    const std::pair<const char*, QString> cases[] = {{"No Query Name", QStringLiteral(" ")},
-                                                     {"Duplicate query name", QStringLiteral("ÉLAN ")},
+    const std::pair<const char*, QString> cases[] = {{"No Query Name", " "},
+                                                     {"Duplicate query name", "ÉLAN "},
                                                      {"Picture List Query", QString(256, u'x')},
-                                                     {"Picture List Query", QStringLiteral("a\tb")}};
+                                                     {"Picture List Query", "a\tb"}};
     const QStringList before = names();
     for (const auto& [title, name] : cases) {
-        const QString expected = QString::fromLatin1(title);
+        const QString expected = title;
         world.talk.expect(expected).expect(expected).expect(expected);
         EXPECT_FALSE(manager.create(name));
         EXPECT_FALSE(manager.clone(zoo, name));
         EXPECT_FALSE(manager.rename(zoo, name));
         EXPECT_EQ(names(), before);
     }
-    EXPECT_EQ(world.talk.shown()[3].text,
-              QStringLiteral("You have already a query named \"ÉLAN\".\nPlease select another name."));
-    world.talk.expect(QStringLiteral("Picture List Query"));
-    EXPECT_FALSE(manager.clone(QStringLiteral("None"), QStringLiteral("x")));
+    EXPECT_EQ(world.talk.shown()[3].text, "You have already a query named \"ÉLAN\".\nPlease select another name.");
+    world.talk.expect("Picture List Query");
+    EXPECT_FALSE(manager.clone("None", "x"));
 }
 
 TEST(QueryEditing, TakesTypedValuesAsTheirColumnsHoldThem)
 {
     QueryWorld world;
-    QueryEditing editing(world.connection, world.environment, initial);
-    const QString failure = QStringLiteral("Picture List Query");
-
-    const std::tuple<const char*, const char*, QString> cases[] = {
-        {"idfrom", " 5 ", QStringLiteral("5")},
-        {"IdFrom", "five", failure},
-        {"IdFrom", "99999999999", failure},
-        {"IdFrom", "", {}},
-        {"IdShow", "no", QStringLiteral("0")},
-        {"WithAncs", "TRUE", QStringLiteral("1")},
-        {"WithAncs", "", failure},
-        {"Place", "O'Hara's \"barn\"", QStringLiteral("O'Hara's \"barn\"")},
-        {"Place", "", {}},
-        {"PicDateFrom", "Abt. 12 Mar 1950", QStringLiteral("195003122")},
-        {"PicDateTo", "195099999", QStringLiteral("195099999")},
-        {"PicDateTo", "195013001", QStringLiteral("Year \"195013001\" is invalid.")},
-        {"PicDateTo", "31 Feb 1950", QStringLiteral("Date \"31 Feb 1950\" is invalid.")},
-        {"PicDateTo", "195002311", QStringLiteral("Date \"31 Feb 1950\" is invalid.")},
-        {"PicDateTo", "999999999", {}},
-        {"ModifDateTo", "2026-03-12 14:05", QStringLiteral("2026-03-12T14:05:00")},
-        {"ModifDateTo", "31/2/2026", failure},
-        {"IndiId", "3", QStringLiteral("3")},
-        {"IndiId", "99", failure},
-        {"QueryName", "x", failure},
-        {"Nothing", "1", failure},
-    };
-    for (const auto& [column, typed, expected] : cases) {
-        SCOPED_TRACE(std::string(column) + '=' + typed);
-        const bool refused = expected == failure || expected.contains(QStringLiteral("invalid"));
+    QueryEditing editing(world.connection(), world.environment, initial);
+    for (const QStringList& row : TestTable("queries/typedvalues.txt")) {
+        SCOPED_TRACE(row[0] + '=' + row[1]);
+        const bool refused = !row[3].isEmpty();
         if (refused) {
-            world.talk.expect(expected);
+            world.talk.expect(row[3]);
         }
-        const QString name = QString::fromLatin1(column);
-        EXPECT_EQ(editing.set(name, QString::fromLatin1(typed)), !refused);
+        EXPECT_EQ(editing.set(row[0], row[1]), !refused);
         if (!refused) {
-            EXPECT_EQ(editing.valueText(name), expected);
-            EXPECT_TRUE(editing.set(name, editing.valueText(name))) << "as shown";
+            EXPECT_EQ(editing.valueText(row[0]), row[2]);
+            EXPECT_TRUE(editing.set(row[0], editing.valueText(row[0]))) << "as shown";
         }
     }
-    EXPECT_EQ(editing.dateText(QStringLiteral("PicDateFrom")), QStringLiteral("Abt. 12 Mar 1950"));
-    EXPECT_EQ(editing.personName(), QStringLiteral("O'Brien,  Élise Jr."));
-    EXPECT_EQ(editing.places(), QStringList({QStringLiteral(""), QStringLiteral("Łódź"), QStringLiteral("Paris")}));
-    world.connection.execute(QStringLiteral("DELETE FROM Indi"));
-    world.talk.expect(QStringLiteral("The index of names does not exist."));
-    EXPECT_FALSE(editing.set(QStringLiteral("IndiId"), QStringLiteral("3")));
+    EXPECT_EQ(editing.dateText("PicDateFrom"), "Abt. 12 Mar 1950");
+    EXPECT_EQ(editing.personName(), "O'Brien,  Élise Jr.");
+    EXPECT_EQ(editing.places(), QStringList({"", "Łódź", "Paris"}));
+    world.execute("DELETE FROM Indi");
+    world.talk.expect("The index of names does not exist.");
+    EXPECT_FALSE(editing.set("IndiId", "3"));
 }
 
 TEST(QueryEditing, KeepsOnlyWhatIsSaved)
 {
     QueryWorld world;
-    const QString column = QStringLiteral("TitleContains");
-    const auto stored = [&] { return QueryEditing(world.connection, world.environment, zoo).valueText(column); };
-    const QString question = QStringLiteral("You are about to lose all changes");
+    const QString column = "TitleContains";
+    const auto stored = [&] { return QueryEditing(world.connection(), world.environment, zoo).valueText(column); };
+    const QString question = "You are about to lose all changes";
     {
-        QueryEditing editing(world.connection, world.environment, zoo);
+        QueryEditing editing(world.connection(), world.environment, zoo);
         EXPECT_TRUE(editing.close()) << "nothing to lose";
-        EXPECT_TRUE(editing.set(column, QStringLiteral("lion")));
+        EXPECT_TRUE(editing.set(column, "lion"));
         EXPECT_TRUE(editing.run());
         EXPECT_EQ(world.defaultQuery(), zoo);
-        EXPECT_TRUE(editing.set(column, QStringLiteral("tiger")));
+        EXPECT_TRUE(editing.set(column, "tiger"));
         world.talk.expect(question, Button::No);
         EXPECT_FALSE(editing.close());
         EXPECT_TRUE(editing.edited());
-        EXPECT_EQ(editing.valueText(column), QStringLiteral("tiger"));
+        EXPECT_EQ(editing.valueText(column), "tiger");
         world.talk.expect(question, Button::Yes);
         EXPECT_TRUE(editing.close());
     }
-    EXPECT_EQ(stored(), QStringLiteral("lion"));
+    EXPECT_EQ(stored(), "lion");
     {
-        QueryEditing editing(world.connection, world.environment, zoo);
-        EXPECT_TRUE(editing.set(column, QStringLiteral("bear")));
+        QueryEditing editing(world.connection(), world.environment, zoo);
+        EXPECT_TRUE(editing.set(column, "bear"));
     }
-    EXPECT_EQ(stored(), QStringLiteral("lion"));
+    EXPECT_EQ(stored(), "lion");
 }
 
 } // namespace stemwright::test

@@ -12,11 +12,11 @@ namespace stemwright::test
 class QueryWorld : public TestWorld
 {
 public:
-    QueryWorld() : connection(newFamilyFile().connection())
+    QueryWorld()
     {
-        connection.execute(TestDataText(QStringLiteral("store/queries.sql")) +
-                           QStringLiteral("INSERT INTO Pic2Person (PicId, PersId) VALUES (4, 4), (5, 6);"
-                                          "UPDATE PicListQueries SET IdShow = -1"));
+        newFamilyFile();
+        execute(TestDataText("store/queries.sql") + "INSERT INTO Pic2Person (PicId, PersId) VALUES (4, 4), (5, 6);"
+                                                    "UPDATE PicListQueries SET IdShow = -1");
     }
 
     QString defaultQuery() const { return settings.value(setting::picListQueries, setting::defaultPicListQuery); }
@@ -24,10 +24,8 @@ public:
     /// Sets columns of the query Initial, "IdFilter = -1, IdFrom = 5".
     void change(const QString& assignments)
     {
-        connection.execute(QStringLiteral("UPDATE PicListQueries SET %1 WHERE QueryName = 'Initial'").arg(assignments));
+        execute("UPDATE PicListQueries SET " + assignments + " WHERE QueryName = 'Initial'");
     }
-
-    Connection& connection;
 };
 
 } // namespace stemwright::test
