@@ -72,7 +72,7 @@ TEST(CommandLine, PrintsListsAsJson)
     CliWorld world;
     ASSERT_EQ(world.run(Words("new f.kvf")).status, 0);
     for (const char* arguments : {"setup list f.kvf", "setup tree f.kvf Default list", "setup items f.kvf Default list",
-                                   "query list f.kvf", "query show f.kvf Initial"}) {
+                                  "query list f.kvf", "query show f.kvf Initial"}) {
         const Outcome outcome = world.run(QStringList{"--json"} + Words(arguments));
         const QJsonArray rows = QJsonDocument::fromJson(outcome.output.toUtf8()).array();
         ASSERT_FALSE(rows.isEmpty()) << arguments << '\n' << outcome;
