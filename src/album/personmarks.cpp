@@ -131,13 +131,4 @@ void PersonMarks::sort()
     });
 }
 
-std::optional<QString> FullNameOf(Connection& connection, int individualId)
-{
-    Statement select = connection.prepareJet(
-        QStringLiteral("SELECT Surname & ', ' & Title & ' ' & GivenName & ' ' & Suffix AS FullName FROM Indi "
-                       "WHERE Id = %1")
-            .arg(individualId));
-    return select.step() ? std::optional(select.text(0)) : std::nullopt;
-}
-
 } // namespace stemwright

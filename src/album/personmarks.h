@@ -62,8 +62,4 @@ private:
     bool m_changed = false;
 };
 
-/// The name under which an individual is shown everywhere: "Surname, Title GivenName Suffix", untrimmed. No value when
-/// the tree has no individual with this number.
-std::optional<QString> FullNameOf(Connection& connection, int individualId);
-
 } // namespace stemwright

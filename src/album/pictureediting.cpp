@@ -6,6 +6,8 @@
 #include "album/thumbnail.h"
 #include "base/error.h"
 #include "base/files.h"
+#include "index/fullname.h"
+#include "index/messages.h"
 #include "store/engine/schema.h"
 
 #include <QtCore/QFileInfo>
@@ -151,11 +153,11 @@ MarkPlace PictureEditing::typedPlace(const QString& typed) const
 
 bool PictureEditing::addIndividual(int individualId, const std::optional<MarkPlace>& place)
 {
-    const std::optional<QString> name = FullNameOf(m_connection, individualId);
-    if (!name) {
-        throw Error(QStringLiteral("The family tree has no individual with the ID %1.").arg(individualId));
+    if (!HasIndividuals(m_connection)) {
+        m_environment.talk.tell(indexmessages::NoIndexOfNames());
+        return false;
     }
-    return m_marks.add({individualId, name->left(maxTextLength), place}, m_environment.talk);
+    return m_marks.add({individualId, StoredFullName(m_connection, individualId), place}, m_environment.talk);
 }
 
 bool PictureEditing::addName(const QString& name, const std::optional<MarkPlace>& place)

@@ -147,11 +147,4 @@ void RemovePictureRecord(Connection& connection, int pictureId)
     transaction.commit();
 }
 
-void RequireShortText(const QString& text, const QString& what)
-{
-    if (text.toUcs4().size() > maxTextLength) {
-        throw Error(QStringLiteral("%1 is too long: it can have %2 characters.").arg(what).arg(maxTextLength));
-    }
-}
-
 } // namespace stemwright

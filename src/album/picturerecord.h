@@ -71,7 +71,4 @@ int WritePictureRecord(Connection& connection, const PictureRecord& record,
 /// Deletes a record with its marks, in one transaction.
 void RemovePictureRecord(Connection& connection, int pictureId);
 
-/// Throws Error when a text is longer than a text column holds. `what` names it: "The title".
-void RequireShortText(const QString& text, const QString& what);
-
 } // namespace stemwright

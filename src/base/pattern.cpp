@@ -95,20 +95,32 @@ private:
     qsizetype m_patternPosition = 0;
 };
 
-/// One form for characters that differ only in case or in how an accent is encoded.
-QString Folded(QStringView text)
+} // namespace
+
+Pattern::Pattern(QStringView pattern) : m_folded(folded(pattern))
+{
+    const Wildcards wildcards = WildcardsOf(m_folded);
+    const auto special = std::find_if(m_folded.cbegin(), m_folded.cend(), [&wildcards](QChar character) {
+        return character == wildcards.any || character == wildcards.one || character == wildcards.digit ||
+               character == u'[';
+    });
+    m_beginning = special - m_folded.cbegin();
+    m_endsFreely = m_beginning + 1 == m_folded.size() && m_folded[m_beginning] == wildcards.any;
+}
+
+QString Pattern::folded(QStringView text)
 {
     return text.toString().normalized(QString::NormalizationForm_C).toCaseFolded();
 }
 
-} // namespace
-
-Pattern::Pattern(QStringView pattern) : m_folded(Folded(pattern)) {}
-
 bool Pattern::matches(QStringView text) const
 {
-    const QString folded = Folded(text);
-    return Matcher(folded, m_folded).matches();
+    return matchesFolded(folded(text));
+}
+
+bool Pattern::matchesFolded(QStringView foldedText) const
+{
+    return Matcher(foldedText, m_folded).matches();
 }
 
 bool MatchesPattern(QStringView text, QStringView pattern)

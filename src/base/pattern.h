@@ -17,11 +17,24 @@ class Pattern
 public:
     explicit Pattern(QStringView pattern);
 
+    /// One form for texts that differ only in case or in how an accent is encoded.
+    static QString folded(QStringView text);
+
     /// Whether the whole text fits, without regard to case.
     bool matches(QStringView text) const;
+    /// The same for a text that is folded already, for lists that are searched again and again.
+    bool matchesFolded(QStringView foldedText) const;
+
+    /// What every text that fits begins with once it is folded: all that stands before the first special character.
+    QStringView beginning() const { return QStringView(m_folded).left(m_beginning); }
+
+    /// Whether every text with that beginning fits.
+    bool endsFreely() const { return m_endsFreely; }
 
 private:
     QString m_folded;
+    qsizetype m_beginning = 0;
+    bool m_endsFreely = false;
 };
 
 /// The same for a single text.

@@ -70,5 +70,6 @@ void AddPictureCommands(CLI::App& app, CommandLine& line);
 void AddMarkCommands(CLI::App& app, CommandLine& line);
 void AddQueryCommands(CLI::App& app, CommandLine& line);
 void AddExportCommands(CLI::App& app, CommandLine& line);
+void AddPeopleCommands(CLI::App& app, CommandLine& line);
 
 } // namespace stemwright

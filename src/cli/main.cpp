@@ -73,6 +73,7 @@ int Run(int argc, char** argv)
         AddGedcomCommands(app, line);
         AddSetupCommands(app, line);
         AddPublishCommands(app, line);
+        AddPeopleCommands(app, line);
         AddPictureCommands(app, line);
         AddMarkCommands(app, line);
         AddQueryCommands(app, line);

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "queries/queryediting.h"
 
-#include "album/personmarks.h"
 #include "base/error.h"
 #include "dates/datepicker.h"
+#include "index/fullname.h"
 #include "queries/messages.h"
 #include "store/engine/jetdates.h"
 #include "store/file/typedvalues.h"

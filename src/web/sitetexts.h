@@ -3,9 +3,9 @@
 #pragma once
 
 #include "index/familytree.h"
+#include "index/texttable.h"
 #include "web/publisheditem.h"
 #include "web/selecteditem.h"
-#include "web/texttable.h"
 
 #include <unordered_map>
 

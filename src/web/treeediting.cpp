@@ -3,7 +3,7 @@
 #include "web/treeediting.h"
 
 #include "base/error.h"
-#include "store/engine/schema.h"
+#include "index/fullname.h"
 #include "web/setupmessages.h"
 
 #include <QtCore/QFileInfo>
@@ -12,33 +12,6 @@
 
 namespace stemwright
 {
-
-namespace
-{
-
-/// An individual's name as the index of names shows it, cut to what a text column holds. Throws Error when there is no
-/// such individual.
-QString HeadName(Connection& connection, int individualId)
-{
-    Statement statement = connection.prepare(
-        QStringLiteral("SELECT coalesce(Surname, '') || ', ' || coalesce(Title, '') || ' ' || coalesce(GivenName, '')"
-                       " || ' ' || coalesce(Suffix, '') FROM Indi WHERE Id = ?1"));
-    if (!statement.bind(1, individualId).step()) {
-        throw Error(QStringLiteral("The family tree has no individual with number %1.").arg(individualId));
-    }
-    QString name = statement.text(0).left(maxTextLength);
-    if (name.back().isHighSurrogate()) {
-        name.chop(1);
-    }
-    return name;
-}
-
-bool HasIndividuals(Connection& connection)
-{
-    return connection.prepare(QStringLiteral("SELECT 1 FROM Indi LIMIT 1")).step();
-}
-
-} // namespace
 
 const QStringList& TreeDisplays()
 {
@@ -134,7 +107,7 @@ bool TreeEditing::setHead(int individualId)
         m_environment.talk.tell(setupmessages::NoNameIndex());
         return false;
     }
-    taken().headName = HeadName(m_connection, individualId);
+    taken().headName = StoredFullName(m_connection, individualId);
     taken().headId = individualId;
     return true;
 }

@@ -41,6 +41,12 @@ TEST(PersonMarks, NameIndividualsInFull)
     EXPECT_TRUE(world.editing.addIndividual(7, std::nullopt));
     EXPECT_TRUE(world.editing.addIndividual(9, std::nullopt));
     EXPECT_THROW(world.editing.addIndividual(8, std::nullopt), Error);
+    {
+        const Transaction undone(world.file.connection());
+        world.file.connection().execute("DELETE FROM Indi");
+        world.talk.expect("The index of names does not exist.");
+        EXPECT_FALSE(world.editing.addIndividual(7, std::nullopt));
+    }
     EXPECT_THROW(world.editing.addName("  ", std::nullopt), Error);
     EXPECT_THROW(world.editing.addName(QString(256, u'x'), std::nullopt), Error);
     world.editing.apply();

@@ -38,6 +38,8 @@ TEST(CommandLine, EndsWithTheStatusThatSaysHowItWent)
         EXPECT_TRUE(outcome.status == 0 || outcome.output.isEmpty()) << outcome;
         EXPECT_TRUE(!row[0].startsWith("--quiet") || (outcome.output + outcome.errors).isEmpty()) << outcome;
     }
+    EXPECT_EQ(world.run(Words("contact f.kvf 1")).output,
+              "Field    Value\nName     Каренина,  Anna\nEmail1   a'b@c\nEmail2\nWebPage  c\nAddress\nPhone\n");
     EXPECT_EQ(world.run({"--version"}).output, QString("stemwright-cli %1\n").arg(versionText));
 }
 

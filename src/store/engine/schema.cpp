@@ -395,4 +395,11 @@ void DropTable(Connection& connection, const TableDefinition& table)
     connection.execute(QStringLiteral("DROP TABLE IF EXISTS \"%1\"").arg(table.name));
 }
 
+void RequireShortText(const QString& text, const QString& what)
+{
+    if (text.toUcs4().size() > maxTextLength) {
+        throw Error(QStringLiteral("%1 is too long: it can have %2 characters.").arg(what).arg(maxTextLength));
+    }
+}
+
 } // namespace stemwright

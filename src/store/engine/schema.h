@@ -49,6 +49,9 @@ struct TableDefinition {
 /// The longest text, in characters, that a text column (not a memo) holds.
 inline constexpr int maxTextLength = 255;
 
+/// Throws Error when a text is longer than a text column holds. `what` names it: "The title".
+void RequireShortText(const QString& text, const QString& what);
+
 /// The number of event slots "_FA1", "_FA2", ... of an individual and of a family.
 inline constexpr int individualEventSlots = 50;
 inline constexpr int familyEventSlots = 20;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/texttable.h"
+#include "index/texttable.h"
 
 #include <bit>
 
