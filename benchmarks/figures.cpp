@@ -35,6 +35,10 @@ std::string Number(const char* format, double value)
 
 std::string Seconds(double value)
 {
+    constexpr double fewMilliseconds = 0.01;
+    if (value < fewMilliseconds) {
+        return Number("%.4f ms", value * 1e3);
+    }
     return Number(value < 1 ? "%.4f s" : "%.2f s", value);
 }
 
@@ -42,6 +46,13 @@ std::string Megabytes(double bytes)
 {
     return Number("%.1f MB", bytes / 1e6);
 }
+
+std::string Verdict(double value, double goal)
+{
+    return value <= goal ? "met" : "missed";
+}
+
+} // namespace
 
 std::string Grouped(std::uint32_t number)
 {
@@ -51,13 +62,6 @@ std::string Grouped(std::uint32_t number)
     }
     return digits;
 }
-
-std::string Verdict(double value, double goal)
-{
-    return value <= goal ? "met" : "missed";
-}
-
-} // namespace
 
 PairResult Summary(std::uint32_t individuals, const std::vector<Round>& rounds, std::uint64_t peakBytes)
 {
@@ -69,14 +73,12 @@ PairResult Summary(std::uint32_t individuals, const std::vector<Round>& rounds, 
             rounds.size()};
 }
 
-Table::Table() : m_lines{{"figure", "individuals", "ours", "limit", "ratio", "goal", "result", "rounds"}} {}
+Table::Table() : m_lines{{"figure", "size", "ours", "limit", "ratio", "goal", "result", "rounds"}} {}
 
 void Table::addResults(const std::string& work, const std::vector<PairResult>& results, const Goals& goals)
 {
     for (const PairResult& result : results) {
-        m_lines.push_back({work + ", time", Grouped(result.individuals), Seconds(result.ours), Seconds(result.limit),
-                           Number("%.2f", result.ratio), Number("<= %.2f", goals.ratio),
-                           Verdict(result.ratio, goals.ratio), std::to_string(result.rounds)});
+        addPair(work + ", time", Grouped(result.individuals), result, goals.ratio);
     }
     for (std::size_t larger = 1; larger < results.size(); ++larger) {
         const PairResult& before = results[larger - 1];
@@ -99,9 +101,20 @@ void Table::addResults(const std::string& work, const std::vector<PairResult>& r
     }
 }
 
-void Table::addUnmeasured(const std::string& work, std::uint32_t individuals, const std::string& reason)
+void Table::addUnmeasured(const std::string& work, const std::string& size, const std::string& reason)
 {
-    m_lines.push_back({work, Grouped(individuals), "not measured: " + reason});
+    m_lines.push_back({work, size, "not measured: " + reason});
+}
+
+void Table::addPair(const std::string& figure, const std::string& size, const PairResult& result, double goal)
+{
+    m_lines.push_back({figure, size, Seconds(result.ours), Seconds(result.limit), Number("%.2f", result.ratio),
+                       Number("<= %.2f", goal), Verdict(result.ratio, goal), std::to_string(result.rounds)});
+}
+
+void Table::addTime(const std::string& figure, const std::string& size, double seconds, double goal)
+{
+    m_lines.push_back({figure, size, Seconds(seconds), "", "", "<= " + Seconds(goal), Verdict(seconds, goal), ""});
 }
 
 std::string Table::text() const

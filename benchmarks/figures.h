@@ -39,6 +39,9 @@ struct Goals {
 
 PairResult Summary(std::uint32_t individuals, const std::vector<Round>& rounds, std::uint64_t peakBytes);
 
+/// A number with commas between its thousands.
+std::string Grouped(std::uint32_t number);
+
 /// Collects lines and prints them in columns.
 class Table
 {
@@ -47,7 +50,12 @@ public:
 
     /// The lines of one kind of work: the ratio at each size, its growth from each size to ten times it, and the peaks.
     void addResults(const std::string& work, const std::vector<PairResult>& results, const Goals& goals);
-    void addUnmeasured(const std::string& work, std::uint32_t individuals, const std::string& reason);
+    void addUnmeasured(const std::string& work, const std::string& size, const std::string& reason);
+
+    /// A line of a pair that is measured at one size only.
+    void addPair(const std::string& figure, const std::string& size, const PairResult& result, double goal);
+    /// A line of seconds that should be few whatever the limit of the machine.
+    void addTime(const std::string& figure, const std::string& size, double seconds, double goal);
 
     std::string text() const;
 

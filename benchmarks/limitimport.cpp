@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
+#include "sqlite.h"
 #include "stopwatch.h"
-
-#include <sqlite3.h>
 
 #include <cstdio>
 #include <cstring>
 #include <deque>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,46 +18,7 @@
 namespace
 {
 
-struct Closer {
-    void operator()(sqlite3* database) const { sqlite3_close(database); }
-
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-
-using Database = std::unique_ptr<sqlite3, Closer>;
-using Statement = std::unique_ptr<sqlite3_stmt, Closer>;
-
-[[noreturn]] void Fail(sqlite3* database)
-{
-    throw std::runtime_error(database == nullptr ? "out of memory" : sqlite3_errmsg(database));
-}
-
-Database Open(const char* path, int flags)
-{
-    sqlite3* handle = nullptr;
-    const int result = sqlite3_open_v2(path, &handle, flags, nullptr);
-    Database database(handle);
-    if (result != SQLITE_OK) {
-        Fail(handle);
-    }
-    return database;
-}
-
-Statement Prepare(const Database& database, const std::string& sql)
-{
-    sqlite3_stmt* statement = nullptr;
-    if (sqlite3_prepare_v2(database.get(), sql.c_str(), -1, &statement, nullptr) != SQLITE_OK) {
-        Fail(database.get());
-    }
-    return Statement(statement);
-}
-
-void Execute(const Database& database, const std::string& sql)
-{
-    if (sqlite3_exec(database.get(), sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
-        Fail(database.get());
-    }
-}
+using namespace stemwright::bench;
 
 /// Texts of any number, held in large pieces that never move.
 class TextStore
@@ -182,7 +141,7 @@ double MeasureInsertion(const char* sourcePath, const char* targetPath)
             tables.push_back(ReadTable(source, name, texts));
         }
     }
-    const stemwright::bench::Stopwatch watch;
+    const Stopwatch watch;
     WriteTables(targetPath, tables);
     return watch.seconds();
 }

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
+#include "albummeasurements.h"
 #include "measurements.h"
 #include "workfolder.h"
 
@@ -9,6 +10,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <set>
 
 /// stemwright-bench: measures the pairs at every size and prints one table. ./bench in the project's root builds and
 /// starts it.
@@ -33,10 +35,37 @@ const std::vector<Work>& AllWork()
     return work;
 }
 
+/// Work that is measured at one size.
+struct AlbumWork {
+    std::string name;
+    void (*measure)(const Bench&, Table&);
+};
+
+const std::vector<AlbumWork>& AllAlbumWork()
+{
+    static const std::vector<AlbumWork> work = {
+        {"thumbnails", MeasureThumbnails}, {"names", MeasureNames},          {"opening", MeasureOpening},
+        {"large", MeasureLargePictures},   {"album", MeasurePublishedAlbum},
+    };
+    return work;
+}
+
+std::set<std::string> NamesOfWork()
+{
+    std::set<std::string> names;
+    for (const Work& work : AllWork()) {
+        names.insert(work.name);
+    }
+    for (const AlbumWork& work : AllAlbumWork()) {
+        names.insert(work.name);
+    }
+    return names;
+}
+
 struct Options {
     Bench bench;
     std::vector<std::uint32_t> sizes;
-    std::string only;
+    std::vector<std::string> only;
     bool quick = false;
 };
 
@@ -45,8 +74,9 @@ void DescribeOptions(CLI::App& app, Options& options)
     app.add_option("--sizes", options.sizes, "Numbers of individuals, separated by commas")
         ->delimiter(',')
         ->check(CLI::Range(100, 10'000'000));
-    app.add_option("--only", options.only, "Measure only one kind of work")
-        ->check(CLI::IsMember({"import", "publish"}));
+    app.add_option("--only", options.only, "Measure only these kinds of work, separated by commas")
+        ->delimiter(',')
+        ->check(CLI::IsMember(NamesOfWork()));
     app.add_flag("--quick", options.quick, "Sizes 1,000 and 10,000 and few rounds: a look, not a judgement");
     app.add_option("--seconds", options.bench.secondsPerPair, "Time for the rounds of one pair, 40 if not given");
     app.add_option("--programs", options.bench.programs, "Folder of the built programs")->required();
@@ -90,13 +120,19 @@ std::string Shortage(const Bench& bench, std::uint32_t individuals)
     return {};
 }
 
+/// Whether a kind of work was asked for.
+bool IsWanted(const Options& options, const std::string& name)
+{
+    return options.only.empty() || std::find(options.only.begin(), options.only.end(), name) != options.only.end();
+}
+
 void Measure(const Work& work, const Options& options, Table& table)
 {
     std::vector<PairResult> results;
     for (const std::uint32_t individuals : options.sizes) {
         const std::string shortage = Shortage(options.bench, individuals);
         if (!shortage.empty()) {
-            table.addUnmeasured(work.name, individuals, shortage);
+            table.addUnmeasured(work.name, Grouped(individuals), shortage);
             continue;
         }
         std::cerr << "Measuring: " << work.name << ", " << individuals << " individuals\n";
@@ -120,9 +156,20 @@ int main(int argc, char** argv)
         setenv("XDG_CONFIG_HOME", settings.path("").c_str(), 1);
         Table table;
         for (const Work& work : AllWork()) {
-            if (options.only.empty() || options.only == work.name) {
+            if (IsWanted(options, work.name)) {
                 Measure(work, options, table);
             }
+        }
+        for (const AlbumWork& work : AllAlbumWork()) {
+            if (!IsWanted(options, work.name)) {
+                continue;
+            }
+            if (FreeBytes(options.bench.memory) < albumNeeds || FreeMemory() < albumNeeds) {
+                table.addUnmeasured(work.name, "", "needs " + std::to_string(albumNeeds / 1'000'000) + " MB of memory");
+                continue;
+            }
+            std::cerr << "Measuring: " << work.name << '\n';
+            work.measure(options.bench, table);
         }
         std::cout << table.text();
         return 0;

@@ -2,14 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "measurements.h"
 
-#include "process.h"
-#include "stopwatch.h"
-#include "treegenerator.h"
-#include "workfolder.h"
+#include "stage.h"
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 
 namespace stemwright::bench
@@ -19,80 +14,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-
-constexpr std::size_t fewestRounds = 2;
-constexpr std::size_t mostRounds = 9;
-
-/// One size's files and the commands on them.
-class Stage
-{
-public:
-    explicit Stage(const Bench& bench) : m_bench(bench), m_memory(bench.memory), m_disk(bench.disk) {}
-
-    std::string inMemory(const std::string& name) const { return m_memory.path(name); }
-
-    std::string onDisk(const std::string& name) const { return m_disk.path(name); }
-
-    ProcessResult run(std::vector<std::string> command) const
-    {
-        command[0] = m_bench.programs + '/' + command[0];
-        return RunProcess(command, m_memory.path(""));
-    }
-
-    /// Runs a command of the command line, every question answered with Yes.
-    ProcessResult stemwright(std::vector<std::string> command) const
-    {
-        command.insert(command.begin(), {"stemwright-cli", "--yes", "--quiet"});
-        return run(std::move(command));
-    }
-
-    void writeTree(std::uint32_t individuals, const std::string& path) const
-    {
-        std::ofstream file(path, std::ios::binary);
-        GenerateTree(individuals, [&file](std::string_view piece) {
-            file.write(piece.data(), static_cast<std::streamsize>(piece.size()));
-        });
-        if (!file.flush()) {
-            throw std::runtime_error(path + " cannot be written");
-        }
-    }
-
-private:
-    const Bench& m_bench;
-    WorkFolder m_memory;
-    WorkFolder m_disk;
-};
-
-/// Repeats a round as long as the time allows.
-template <typename MeasureRound>
-std::vector<Round> Repeat(const Bench& bench, MeasureRound measureRound)
-{
-    const Stopwatch watch;
-    std::vector<Round> rounds;
-    while (rounds.size() < fewestRounds || (rounds.size() < mostRounds && watch.seconds() < bench.secondsPerPair)) {
-        rounds.push_back(measureRound());
-    }
-    return rounds;
-}
-
-/// What a limit reports of itself.
-struct LimitReport {
-    /// From the start of the process to the end of its work, less what it does to prepare itself.
-    double seconds = 0;
-    /// How many files were written; only limit_publish tells.
-    std::uint64_t files = 0;
-};
-
-LimitReport RunLimit(const Stage& stage, const std::vector<std::string>& command)
-{
-    const ProcessResult process = stage.run(command);
-    std::istringstream output(process.output);
-    double began = 0;
-    LimitReport report;
-    output >> began >> report.seconds >> report.files;
-    report.seconds += began - process.started;
-    return report;
-}
 
 /// A family file whose only setup asks for personal pages of the whole tree, with the items that a genealogist would
 /// choose.
@@ -132,7 +53,7 @@ PairResult MeasureImport(const Bench& bench, std::uint32_t individuals)
         stage.stemwright({"new", file});
         const ProcessResult import = stage.stemwright({"import", file, tree});
         peakBytes = std::max(peakBytes, import.peakBytes);
-        const LimitReport limit = RunLimit(stage, {"limit_import", file, limitFile});
+        const Report limit = stage.measured({"limit_import", file, limitFile});
         RemoveAndSettle(file);
         RemoveAndSettle(limitFile);
         return {import.seconds, limit.seconds};
@@ -158,10 +79,11 @@ PairResult MeasurePublishing(const Bench& bench, std::uint32_t individuals)
             stage.run({"limit_publish", "pack", site, archive});
         }
         RemoveAndSettle(site);
-        const LimitReport limit = RunLimit(stage, {"limit_publish", "write", archive, site});
+        const Report limit = stage.measured({"limit_publish", "write", archive, site});
         RemoveAndSettle(site);
-        if (limit.files < individuals / 2) {
-            throw std::runtime_error("The published site holds only " + std::to_string(limit.files) + " files");
+        const double files = limit.others.at(0);
+        if (files < individuals / 2.0) {
+            throw std::runtime_error("The published site holds only " + std::to_string(files) + " files");
         }
         return {publishing.seconds, limit.seconds};
     });

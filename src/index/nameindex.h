@@ -22,11 +22,9 @@ using NameRow = std::uint32_t;
 /// The columns of the person picker.
 enum class NameColumn { PersonId, Name, BirthDate, DeathDate };
 
-enum class SortDirection { Ascending, Descending };
-
 struct NameSort {
     NameColumn column = NameColumn::Name;
-    SortDirection direction = SortDirection::Ascending;
+    Qt::SortOrder direction = Qt::AscendingOrder;
 };
 
 class NameIndex

@@ -27,7 +27,9 @@ TEST(Figures, TableJudgesRatiosGrowthAndPeaks)
                       {100'000, 25, 10, 2.5, 50'000'001, 3},
                       {1'000'000, 320, 100, 3.2, 1, 2}},
                      goals);
-    table.addUnmeasured("publish", 1'000'000, "too little memory");
+    table.addUnmeasured("publish", Grouped(1'000'000), "too little memory");
+    table.addPair("names", "8", {0, 0.00002, 0.0123, 0.5, 0, 9}, 1);
+    table.addTime("slowest", "8", 0.011, 0.01);
     const std::string text = table.text();
     using testing::ContainsRegex;
     EXPECT_THAT(text, ContainsRegex("import, time +1,000 +1\\.00 s +0\\.1000 s +9\\.00 +<= 2\\.50 +missed +3\n"));
@@ -37,6 +39,8 @@ TEST(Figures, TableJudgesRatiosGrowthAndPeaks)
     EXPECT_THAT(text, testing::Not(ContainsRegex("growth +to 10,000 ")));
     EXPECT_THAT(text, ContainsRegex("import, memory +10,000 +41\\.0 MB +<= 41\\.0 MB +met"));
     EXPECT_THAT(text, ContainsRegex("import, memory +100,000 +50\\.0 MB +<= 50\\.0 MB +missed"));
+    EXPECT_THAT(text, ContainsRegex("names +8 +0\\.0200 ms +0\\.0123 s +0\\.50 +<= 1\\.00 +met +9\n"));
+    EXPECT_THAT(text, ContainsRegex("slowest +8 +0\\.0110 s +<= 0\\.0100 s +missed"));
     EXPECT_THAT(text, ContainsRegex("publish +1,000,000 +not measured: too little memory\n"));
 }
 
