@@ -78,7 +78,7 @@ void DescribeOptions(CLI::App& app, Options& options)
         ->delimiter(',')
         ->check(CLI::IsMember(NamesOfWork()));
     app.add_flag("--quick", options.quick, "Sizes 1,000 and 10,000 and few rounds: a look, not a judgement");
-    app.add_option("--seconds", options.bench.secondsPerPair, "Time for the rounds of one pair, 40 if not given");
+    app.add_option("--seconds", options.bench.secondsPerPair, "Time for the rounds of one pair, 20 if not given");
     app.add_option("--programs", options.bench.programs, "Folder of the built programs")->required();
     app.add_option("--memory", options.bench.memory, "Folder on a tmpfs to write to")->required();
     app.add_option("--disk", options.bench.disk, "Folder on a disk, for packed sites")->required();
@@ -95,7 +95,7 @@ void FillIn(Options& options)
     }
     std::sort(options.sizes.begin(), options.sizes.end());
     if (options.bench.secondsPerPair <= 0) {
-        options.bench.secondsPerPair = options.quick ? 3 : 40;
+        options.bench.secondsPerPair = options.quick ? 3 : 20;
     }
 }
 

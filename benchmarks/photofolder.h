@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+/// Reading generated photos. Throws std::filesystem::filesystem_error. Stands on nothing.
 namespace stemwright::bench
 {
 
