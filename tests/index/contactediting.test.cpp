@@ -21,12 +21,12 @@ TEST(ContactEditing, StoresWhatIsNotEmptyOnce)
     ContactEditing contact(connection, 1);
     EXPECT_EQ(contact.name() + contact.address() + contact.phone(), "Archer,  Ada 12");
     EXPECT_FALSE(contact.apply());
-    EXPECT_EQ(Column(connection, stored), QStringList());
+    EXPECT_EQ(Rows(connection, stored), QStringList());
     contact.setRecord({"a'b@example.org", {}, {}});
     EXPECT_TRUE(contact.apply());
     contact.setRecord({{}, {}, "example.org"});
     EXPECT_TRUE(contact.apply());
-    EXPECT_EQ(Column(connection, stored), QStringList{"1|||example.org"});
+    EXPECT_EQ(Rows(connection, stored), QStringList{"1|||example.org"});
 
     ContactEditing again(connection, 1);
     EXPECT_EQ(again.record().webPage, "example.org");
@@ -34,7 +34,7 @@ TEST(ContactEditing, StoresWhatIsNotEmptyOnce)
     EXPECT_FALSE(again.apply());
     again.setRecord({QString(256, u'a'), {}, {}});
     EXPECT_THROW(again.apply(), Error);
-    EXPECT_EQ(Column(connection, stored), QStringList{"1|||example.org"});
+    EXPECT_EQ(Rows(connection, stored), QStringList{"1|||example.org"});
     EXPECT_THROW(ContactEditing(connection, 3), Error);
 }
 

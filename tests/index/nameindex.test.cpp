@@ -69,8 +69,8 @@ TEST_F(NameIndexTest, SortsLikeTheFamilyFilesQueriesAndByEachColumn)
     build.person(5, "Ann", "Erik", {{"Title", "Dr"}}).person(6, "Zoe", "Erik").person(7, "", "");
     ASSERT_TRUE(OpenNameIndex(index, world.file.connection()));
     std::vector<int> queried;
-    for (const QString& id : Column(world.file.connection(), ("SELECT Id FROM Indi ORDER BY Surname COLLATE names,"
-                                                              " GivenName COLLATE names, Suffix COLLATE names"))) {
+    for (const QString& id : Rows(world.file.connection(), ("SELECT Id FROM Indi ORDER BY Surname COLLATE names,"
+                                                            " GivenName COLLATE names, Suffix COLLATE names"))) {
         queried.push_back(id.toInt());
     }
     EXPECT_EQ(listed(), queried);
