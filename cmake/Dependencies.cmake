@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: The Stemwright authors
 # SPDX-License-Identifier: MIT
 # Everything that Stemwright builds on; all of it comes from the distribution.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
 find_package(ICU REQUIRED COMPONENTS i18n uc)
 find_package(SQLiteCpp REQUIRED)
 find_package(SQLite3 REQUIRED)

@@ -32,6 +32,7 @@ def drawn():
     """Yields (path below share, picture) for every picture."""
     for name, picture in (*treeicons.pictures(), *symbols.pictures()):
         yield f"graphics/{name}", as_gif(picture)
+    yield "ArrowPointer.gif", as_gif(symbols.album_pointer())
     yield "graphics/tree.gif", as_gif(emblem.picture(), colours=95, matte=(246, 236, 214))
     for source in (textures, ornaments):
         for style, name, picture in source.pictures():

@@ -120,6 +120,15 @@ def pointer(c, size, colour):
     c.polygon([(4 + x * unit, 4 + y * unit) for x, y in outline], colour)
 
 
+def album_pointer():
+    """The arrow of the album window: its tip, rim included, is the corner of the picture."""
+    canvas = Canvas(44, 44)
+    pointer(canvas, 44, (214, 40, 32))
+    whole = canvas.rimmed().finished()
+    left, top, right, bottom = whole.getbbox()
+    return whole.crop((left, top, right, bottom))
+
+
 SIGNS = {
     "expand.gif": expand, "collapse.gif": collapse, "desc.gif": descendants, "btn_home.gif": parent_site,
     "btn_first.gif": first_page, "btn_names.gif": names, "btn_tree.gif": tree, "btn_pic.gif": pictures_of_album,

@@ -27,6 +27,13 @@ Message NoSuchPicture(const QString& queryName, const QString& number);
 Message ConfirmDuplicateEntry();
 Message ChangePointerToArrow();
 
+inline const QString enterNewName = QStringLiteral("To enter a new name, type here:");
+inline const QString editTheName = QStringLiteral("Edit the name here:");
+inline const QString dragThePointer = QStringLiteral("To move the pointer, drag and drop it");
+
+/// Leaving a record whose changes are not applied.
+Message SavingTheChanges();
+
 /// Writing a picture out of the album over a file that exists.
 Message ReplaceFile(const QString& path);
 

@@ -62,6 +62,23 @@ void WriteContent(Connection& connection, int id, const PictureRecord& record, c
     update.run();
 }
 
+/// What a picture of an earlier release may take, by far.
+constexpr qint64 largestStored = 256LL * 1024 * 1024;
+
+QByteArray StoredBytes(Connection& connection, const QString& column, int pictureId)
+{
+    Statement size = connection.prepare(
+        QStringLiteral("SELECT coalesce(length(%1), 0) FROM AlbumTOC WHERE PicId = ?1").arg(column));
+    if (!size.bind(1, pictureId).step() || size.integer64(0) == 0) {
+        return {};
+    }
+    if (size.integer64(0) > largestStored) {
+        throw Error(QStringLiteral("Picture %1 is too large to be shown.").arg(pictureId));
+    }
+    Statement select = connection.prepare(QStringLiteral("SELECT %1 FROM AlbumTOC WHERE PicId = ?1").arg(column));
+    return select.bind(1, pictureId).step() ? select.bytes(0) : QByteArray();
+}
+
 } // namespace
 
 std::optional<PictureRecord> FindPictureRecord(Connection& connection, int pictureId)
@@ -96,6 +113,16 @@ std::vector<PictureRecord> ListPictures(Connection& connection)
         records.push_back(RecordOf(select));
     }
     return records;
+}
+
+QByteArray StoredPicture(Connection& connection, int pictureId)
+{
+    return StoredBytes(connection, QStringLiteral("Picture"), pictureId);
+}
+
+QByteArray StoredThumbnail(Connection& connection, int pictureId)
+{
+    return StoredBytes(connection, QStringLiteral("Thumb"), pictureId);
 }
 
 QStringList KnownPlaces(Connection& connection)

@@ -60,6 +60,11 @@ PictureRecord LoadPictureRecord(Connection& connection, int pictureId);
 /// All records by picture number, with what lists show: without description, file type and size.
 std::vector<PictureRecord> ListPictures(Connection& connection);
 
+/// The bytes of a record's picture or of its thumbnail; empty when it has none. Throws Error for a value that is far
+/// too large to be a picture of ours.
+QByteArray StoredPicture(Connection& connection, int pictureId);
+QByteArray StoredThumbnail(Connection& connection, int pictureId);
+
 /// The places of all pictures, each once, for the user to choose from.
 QStringList KnownPlaces(Connection& connection);
 

@@ -30,11 +30,17 @@ ApplicationFolder ApplicationFolder::ofProgram()
 
 QString ApplicationFolder::pagesFolder() const
 {
-    const bool writable = QFileInfo(m_path).isWritable();
-    const QString root =
-        writable ? m_path
-                 : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + QStringLiteral("/Stemwright");
-    return root + QStringLiteral("/fampages");
+    return (isWritable() ? m_path : userFolder()) + QStringLiteral("/fampages");
+}
+
+QString ApplicationFolder::userFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + QStringLiteral("/Stemwright");
+}
+
+bool ApplicationFolder::isWritable() const
+{
+    return QFileInfo(m_path).isWritable();
 }
 
 } // namespace stemwright

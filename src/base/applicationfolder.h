@@ -24,9 +24,17 @@ public:
     /// The full path of a file below the folder, for example file("html/topleft.html").
     QString file(const QString& relativePath) const { return m_path + u'/' + relativePath; }
 
+    /// The family file of the imaginary cat family, which users may try things on.
+    QString sampleFile() const { return file(QStringLiteral("felinity.kvf")); }
+
     /// The folder below which new setups put their sites: "fampages" in the application's folder, or in the user's
     /// documents where the application's folder cannot be written (a system-wide installation).
     QString pagesFolder() const;
+
+    /// Where the user's own copies of what the application brings go when its folder cannot be written.
+    static QString userFolder();
+
+    bool isWritable() const;
 
 private:
     QString m_path;

@@ -55,8 +55,13 @@ namespace setting
 inline const QString openCreateFamFile = QStringLiteral("OpenCreateFamFile");
 inline const QString lastFamilyFile = QStringLiteral("LastFamilyFile");
 inline const QString showNewAlbumConfirm = QStringLiteral("ShowNewAlbumConfirm");
+/// The paths of the files last created or opened, the latest first, separated by line breaks.
+inline const QString recentFamilyFiles = QStringLiteral("RecentFamilyFiles");
+inline const QString dontShow = QStringLiteral("DontShow");
 inline const QString picListQueries = QStringLiteral("PicListQueries");
 inline const QString defaultPicListQuery = QStringLiteral("DefaultPicListQuery");
+/// Where windows stood, by the name of the window or its part.
+inline const QString windows = QStringLiteral("Windows");
 inline const QString gedcom = QStringLiteral("GEDCOM");
 inline const QString gedcomPath = QStringLiteral("GedcomPath");
 inline const QString exportWizard = QStringLiteral("ExportWizard");

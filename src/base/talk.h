@@ -75,6 +75,8 @@ public:
     virtual Button ask(const Message& message) = 0;
     /// Shows a message that has only an OK button.
     virtual void tell(const Message& message) = 0;
+    /// Shows a message that has only an OK button, and a check box with this caption. True when the user ticked it.
+    virtual bool tellWithCheckBox(const Message& message, const QString& checkBox) = 0;
     /// Asks for a line of text; no value when cancelled.
     virtual std::optional<QString> input(const InputRequest& request) = 0;
     /// Asks for a file or folder; its full path, or no value when cancelled.

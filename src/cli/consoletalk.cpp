@@ -151,6 +151,12 @@ void ConsoleTalk::tell(const Message& message)
     }
 }
 
+bool ConsoleTalk::tellWithCheckBox(const Message& message, const QString&)
+{
+    tell(message);
+    return false;
+}
+
 std::optional<QString> ConsoleTalk::input(const InputRequest& request)
 {
     PrintError(QStringLiteral("%1 [%2] ").arg(request.prompt, request.text));

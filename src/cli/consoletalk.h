@@ -19,6 +19,8 @@ public:
 
     Button ask(const Message& message) override;
     void tell(const Message& message) override;
+    /// There is nothing to tick on a terminal.
+    bool tellWithCheckBox(const Message& message, const QString& checkBox) override;
     /// No value at the end of the input, or where nobody can be asked; an empty line leaves the request's text.
     std::optional<QString> input(const InputRequest& request) override;
     /// No value: commands take their files as arguments.

@@ -72,6 +72,13 @@ void ScriptedTalk::tell(const Message& message)
     ask(message);
 }
 
+bool ScriptedTalk::tellWithCheckBox(const Message& message, const QString&)
+{
+    Message asked = message;
+    asked.buttons.push_back(Button::Yes);
+    return ask(asked) == Button::Yes;
+}
+
 std::optional<QString> ScriptedTalk::input(const InputRequest& request)
 {
     if (m_expected.empty() || !Fits(m_expected.front().title, request.title, request.prompt)) {

@@ -28,6 +28,8 @@ public:
 
     Button ask(const Message& message) override;
     void tell(const Message& message) override;
+    /// Ticked when the expected answer is Button::Yes.
+    bool tellWithCheckBox(const Message& message, const QString& checkBox) override;
     std::optional<QString> input(const InputRequest& request) override;
     std::optional<QString> chooseFile(const FileRequest& request) override;
     std::unique_ptr<Progress> progress(const QString& title, const QString& caption) override;

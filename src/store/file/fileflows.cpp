@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/file/fileflows.h"
 
+#include "base/files.h"
 #include "store/engine/engineerror.h"
 #include "store/file/copyfamilyfile.h"
 #include "store/file/messages.h"
@@ -19,9 +20,38 @@ bool MayReplace(const QString& path, Talk& talk)
     return !QFileInfo(path).isFile() || talk.ask(storemessages::ReplaceExisting(path)) == Button::Yes;
 }
 
+constexpr qsizetype mostRecentFiles = 10;
+
+QStringList StoredRecentFiles(const Settings& settings)
+{
+    return settings.value(setting::openCreateFamFile, setting::recentFamilyFiles).split(u'\n', Qt::SkipEmptyParts);
+}
+
 void Remember(const FamilyFile& file, Settings& settings)
 {
     settings.setValue(setting::openCreateFamFile, setting::lastFamilyFile, file.path());
+    QStringList recent = StoredRecentFiles(settings);
+    recent.removeAll(file.path());
+    recent.prepend(file.path());
+    settings.setValue(setting::openCreateFamFile, setting::recentFamilyFiles,
+                      recent.first(std::min(recent.size(), mostRecentFiles)).join(u'\n'));
+}
+
+/// The sample family file in a place where it can be changed.
+QString WritableSampleFile(const ApplicationFolder& application)
+{
+    const QString shipped = application.sampleFile();
+    if (application.isWritable() || !QFileInfo::exists(shipped)) {
+        return shipped;
+    }
+    QString own = ApplicationFolder::userFolder() + u'/' + QFileInfo(shipped).fileName();
+    if (!QFileInfo::exists(own)) {
+        CreateFolderPath(ApplicationFolder::userFolder());
+        UnfinishedFile unfinished(own);
+        WriteWholeFile(unfinished.path(), ReadWholeFile(shipped));
+        unfinished.putInPlace();
+    }
+    return own;
 }
 
 } // namespace
@@ -34,7 +64,9 @@ bool CreateNewFamilyFile(FamilyFile& file, const QString& path, Environment& env
     }
     Remember(file, environment.settings);
     if (environment.settings.value(setting::openCreateFamFile, setting::showNewAlbumConfirm).isEmpty()) {
-        environment.talk.tell(storemessages::CreationConfirmation());
+        if (environment.talk.tellWithCheckBox(storemessages::CreationConfirmation(), storemessages::DontShowAgain())) {
+            environment.settings.setValue(setting::openCreateFamFile, setting::showNewAlbumConfirm, setting::dontShow);
+        }
     }
     return true;
 }
@@ -46,6 +78,50 @@ bool OpenAlbum(FamilyFile& file, const QString& path, Environment& environment)
     }
     Remember(file, environment.settings);
     return true;
+}
+
+bool OpenTestDB(FamilyFile& file, Environment& environment)
+{
+    QString sample = environment.application.sampleFile();
+    try {
+        sample = WritableSampleFile(environment.application);
+        if (!QFileInfo::exists(sample)) {
+            environment.talk.tell(storemessages::NoTestFile(sample));
+            return false;
+        }
+        const bool isOpen = file.isOpen() && IsSameFile(file.path(), sample);
+        FamilyFile opened;
+        if (!isOpen && !OpenFamilyFile(opened, sample, environment)) {
+            return false;
+        }
+        const QString backup = BackupFamilyFile(isOpen ? file.connection() : opened.connection());
+        environment.talk.tell(storemessages::OpeningTestFile(sample, backup));
+        if (!isOpen) {
+            file = std::move(opened);
+        }
+    } catch (const std::exception& exception) {
+        environment.talk.tell(storemessages::CannotOpen(sample, ReasonText(exception)));
+        return false;
+    }
+    Remember(file, environment.settings);
+    return true;
+}
+
+QString FamilyFileOfArgument(const QString& argument)
+{
+    QString name = argument;
+    if (const qsizetype blank = name.indexOf(u' '); blank >= 0) {
+        name.remove(blank, 1);
+    }
+    const bool meantAsTyped = !QFileInfo::exists(name) && QFileInfo::exists(argument);
+    return QFileInfo(meantAsTyped ? argument : name).absoluteFilePath();
+}
+
+QStringList RecentFamilyFiles(const Settings& settings)
+{
+    QStringList files = StoredRecentFiles(settings);
+    files.removeIf([](const QString& path) { return !QFileInfo(path).isFile(); });
+    return files;
 }
 
 bool SaveFamilyFileAs(FamilyFile& file, const QString& path, Environment& environment)

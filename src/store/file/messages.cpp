@@ -7,6 +7,16 @@
 namespace stemwright::storemessages
 {
 
+namespace
+{
+
+FileRequest FamilyFileRequest(const QString& title, FilePurpose purpose)
+{
+    return {title, purpose, {QStringLiteral("Stemwright Family File (*.kvf)")}, {}, {}};
+}
+
+} // namespace
+
 Message CouldNotReopen()
 {
     return {{}, QStringLiteral("Internal error: Could not reopen new database"), Icon::Critical};
@@ -52,6 +62,44 @@ Message CreationConfirmation()
                            "to create new picture records. Afterwards you will be able to use "
                            "Edit Picture Record and Delete Picture Record to modify or remove existing records."),
             Icon::Information};
+}
+
+QString DontShowAgain()
+{
+    return QStringLiteral("Don't show this screen in the future.");
+}
+
+Message OpeningTestFile(const QString& path, const QString& backup)
+{
+    return {QStringLiteral("Opening Test File"),
+            QStringLiteral("You are going to open the test family file,\n%1. "
+                           "You may modify it at your will, because Stemwright has created a "
+                           "backup of this file, %2. "
+                           "If, in the future, you will want to discard "
+                           "your changes, you will have to copy this backup file to a file "
+                           "with extension '.kvf'.")
+                .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(backup)),
+            Icon::Information};
+}
+
+Message NoTestFile(const QString& path)
+{
+    return {{}, QStringLiteral("Couldn't find test family file ") + QDir::toNativeSeparators(path), Icon::Warning};
+}
+
+FileRequest ChooseNewFamilyFile()
+{
+    return FamilyFileRequest(QStringLiteral("Create New Family File"), FilePurpose::Save);
+}
+
+FileRequest ChooseFamilyFile()
+{
+    return FamilyFileRequest(QStringLiteral("Open Existing Family File"), FilePurpose::Open);
+}
+
+FileRequest ChooseCopy()
+{
+    return FamilyFileRequest(QStringLiteral("Save Family File As"), FilePurpose::Save);
 }
 
 } // namespace stemwright::storemessages

@@ -18,5 +18,12 @@ Message CannotSaveAs(const QString& path, const QString& reason);
 Message ReplaceExisting(const QString& path);
 /// What to do next with a family file that was just created.
 Message CreationConfirmation();
+QString DontShowAgain();
+/// The sample family file was copied before it is opened.
+Message OpeningTestFile(const QString& path, const QString& backup);
+Message NoTestFile(const QString& path);
+FileRequest ChooseNewFamilyFile();
+FileRequest ChooseFamilyFile();
+FileRequest ChooseCopy();
 
 } // namespace stemwright::storemessages

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QString>
+
+class QAction;
+class QMainWindow;
+class QMenu;
+class QToolBar;
+
+/// The menus and the toolbar of the main window as data: captions, icons, shortcuts, in their order. What the actions
+/// do, and when they are enabled, is the window's. Nothing here fails.
+namespace stemwright
+{
+
+struct AlbumActions {
+    /// Fills the window's menu bar and adds its toolbar. `icons` is the folder of the drawings.
+    AlbumActions(QMainWindow& window, const QString& icons);
+
+    // File
+    QAction* mnuNew;
+    QAction* mnuOpen;
+    QMenu* mnuRecent;
+    QAction* mnuSaveAs;
+    QAction* mnuExportTabletoText;
+    QAction* mnuImportGedcom;
+    QAction* mnuProperties;
+    QAction* mnuExit;
+    // Edit
+    QAction* mnuContEdit;
+    // Pictures
+    QAction* mnuAddPicRec;
+    QAction* mnuEditPicRec;
+    QAction* mnuDelPicRec;
+    QAction* mnuApply;
+    QAction* mnuQueries;
+    QAction* mnuFind;
+    QAction* mnuThumbView;
+    // Help
+    QAction* mnuHelp;
+    QAction* mnuAbout;
+    // Toolbar only
+    QAction* actFirst;
+    QAction* actPrevious;
+    QAction* actNext;
+    QAction* actLast;
+    QAction* actRunQuery;
+
+    QToolBar* toolbar;
+};
+
+} // namespace stemwright

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "app/controls.h"
+
+#include "base/settings.h"
+
+#include <QtCore/QEvent>
+#include <QtGui/QClipboard>
+#include <QtGui/QShortcut>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QRadioButton>
+
+namespace stemwright
+{
+
+namespace
+{
+
+constexpr int longestPaste = 10'000'000;
+
+/// Notes a window's place whenever it is hidden, which closing it does, too.
+class PlaceKeeper : public QObject
+{
+public:
+    PlaceKeeper(QWidget& window, Settings& settings) : QObject(&window), m_window(window), m_settings(settings)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == &m_window && event->type() == QEvent::Hide) {
+            m_settings.setValue(setting::windows, m_window.objectName(),
+                                QString::fromLatin1(m_window.saveGeometry().toBase64()));
+        }
+        return false;
+    }
+
+private:
+    QWidget& m_window;
+    Settings& m_settings;
+};
+
+void CopySelectedRows(const QAbstractItemView& view)
+{
+    const QAbstractItemModel& model = *view.model();
+    QModelIndexList rows = view.selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    QString text;
+    for (const QModelIndex& row : rows) {
+        QStringList cells;
+        for (int column = 0; column < model.columnCount(); ++column) {
+            cells << model.index(row.row(), column).data().toString();
+        }
+        text += cells.join(u'\t') + u'\n';
+    }
+    QApplication::clipboard()->setText(text);
+}
+
+} // namespace
+
+QPushButton* MakeButton(const char* name, const QString& caption, const QString& toolTip)
+{
+    auto* button = new QPushButton(caption);
+    button->setObjectName(QLatin1StringView(name));
+    button->setToolTip(toolTip);
+    button->setAutoDefault(false);
+    return button;
+}
+
+QRadioButton* MakeOption(const char* name, const QString& caption)
+{
+    auto* option = new QRadioButton(caption);
+    option->setObjectName(QLatin1StringView(name));
+    return option;
+}
+
+QLabel* MakeLabel(const char* name, const QString& text)
+{
+    auto* label = new QLabel(text);
+    label->setObjectName(QLatin1StringView(name));
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QLineEdit* MakeLine(const char* name, const QString& toolTip)
+{
+    auto* line = new QLineEdit;
+    line->setObjectName(QLatin1StringView(name));
+    line->setToolTip(toolTip);
+    line->setMaxLength(longestPaste);
+    return line;
+}
+
+void LetCopy(QAbstractItemView& view)
+{
+    auto* copy = new QShortcut(QKeySequence::Copy, &view, nullptr, nullptr, Qt::WidgetShortcut);
+    QObject::connect(copy, &QShortcut::activated, &view, [&view] { CopySelectedRows(view); });
+}
+
+void RememberPlace(QWidget& window, Settings& settings)
+{
+    window.restoreGeometry(
+        QByteArray::fromBase64(settings.value(setting::windows, window.objectName()).toLatin1()));
+    new PlaceKeeper(window, settings);
+}
+
+} // namespace stemwright

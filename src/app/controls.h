@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QString>
+#include <QtWidgets/QDialog>
+
+class QAbstractItemView;
+class QDialogButtonBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+/// What the windows make again and again: controls with their object name, caption and tooltip, and windows that come
+/// back where they were. Nothing here fails.
+namespace stemwright
+{
+
+class Settings;
+
+/// A push button. `caption` may hold an access key; the object name is `name`.
+QPushButton* MakeButton(const char* name, const QString& caption, const QString& toolTip = {});
+QRadioButton* MakeOption(const char* name, const QString& caption);
+/// A label that shows its text as it stands, whatever names it holds.
+QLabel* MakeLabel(const char* name, const QString& text = {});
+/// A line of text. It takes whatever is pasted: what is too long for the family file is refused by name when it is
+/// applied, not cut silently.
+QLineEdit* MakeLine(const char* name, const QString& toolTip = {});
+
+/// Makes Ctrl+C copy the selected rows of a list or grid as lines of text with tabs between the columns.
+void LetCopy(QAbstractItemView& view);
+
+/// Puts a window where it stood when it was closed last, or leaves it at its own size, and remembers its place from now
+/// on. The window is known by its object name. `settings` must outlive the window.
+void RememberPlace(QWidget& window, Settings& settings);
+
+} // namespace stemwright

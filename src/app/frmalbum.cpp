@@ -1,0 +1,509 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "app/frmalbum.h"
+
+#include "album/messages.h"
+#include "album/picturelist.h"
+#include "app/albumactions.h"
+#include "app/controls.h"
+#include "app/frmabout.h"
+#include "app/frmexporttableastext.h"
+#include "app/frmindex4addr.h"
+#include "app/frmpeople.h"
+#include "app/frmproperties.h"
+#include "app/frmqueries.h"
+#include "app/frmwelcome.h"
+#include "app/gedcomimport.h"
+#include "app/help.h"
+#include "app/messages.h"
+#include "app/picturebrowser.h"
+#include "app/recordeditor.h"
+#include "queries/querymanager.h"
+#include "store/engine/engineerror.h"
+#include "store/file/fileflows.h"
+#include "store/file/messages.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QMimeData>
+#include <QtCore/QTimer>
+#include <QtGui/QCloseEvent>
+#include <QtGui/QDropEvent>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QToolBar>
+
+namespace stemwright
+{
+
+namespace
+{
+
+const QString splitterKey = QStringLiteral("splHalves");
+
+} // namespace
+
+frmAlbum::frmAlbum(Environment& environment)
+    : m_environment(environment),
+      m_actions(std::make_unique<AlbumActions>(*this, environment.application.file(QStringLiteral("icons")))),
+      m_browser(new PictureBrowser(this)), m_editor(new RecordEditor(environment, this)),
+      m_halves(new QSplitter(Qt::Vertical, this)), cboQuery(new QComboBox), lblPosition(MakeLabel("lblPosition"))
+{
+    setObjectName(QStringLiteral("frmAlbum"));
+    setAcceptDrops(true);
+    resize(1100, 760);
+    cboQuery->setObjectName(QStringLiteral("cboQuery"));
+    cboQuery->setToolTip(QStringLiteral("Picture list query"));
+    cboQuery->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    cboQuery->setMinimumContentsLength(16);
+    m_actions->toolbar->addWidget(cboQuery);
+    m_actions->toolbar->addAction(m_actions->actRunQuery);
+    statusBar()->addPermanentWidget(lblPosition);
+
+    m_halves->setObjectName(splitterKey);
+    m_halves->addWidget(m_browser);
+    m_halves->addWidget(m_editor);
+    m_halves->setStretchFactor(0, 2);
+    m_halves->setStretchFactor(1, 3);
+    m_halves->setChildrenCollapsible(false);
+    setCentralWidget(m_halves);
+
+    connectActions();
+    connectParts();
+    RememberPlace(*this, environment.settings);
+    restoreSplitter();
+    showFile();
+}
+
+frmAlbum::~frmAlbum() = default;
+
+void frmAlbum::connectActions()
+{
+    const auto act = [this](QAction* action, auto procedure) {
+        connect(action, &QAction::triggered, this, procedure);
+    };
+    act(m_actions->mnuNew, [this] { newFile(); });
+    act(m_actions->mnuOpen, [this] { openFile(); });
+    act(m_actions->mnuSaveAs, [this] { saveAs(); });
+    act(m_actions->mnuExportTabletoText, [this] { exportList(); });
+    act(m_actions->mnuImportGedcom, [this] { importGedcom(); });
+    act(m_actions->mnuProperties, [this] { showProperties(); });
+    act(m_actions->mnuExit, [this] { close(); });
+    act(m_actions->mnuContEdit, [this] { editContacts(); });
+    act(m_actions->mnuAddPicRec, [this] { addRecord(); });
+    act(m_actions->mnuEditPicRec, [this] { editRecord(); });
+    act(m_actions->mnuDelPicRec, [this] { deleteRecord(); });
+    act(m_actions->mnuApply, [this] { m_editor->apply(); });
+    act(m_actions->mnuQueries, [this] { manageQueries(); });
+    act(m_actions->mnuFind, [this] { findPicture(); });
+    act(m_actions->mnuThumbView, [this](bool thumbnails) { showThumbnails(thumbnails); });
+    act(m_actions->mnuHelp, [this] { ShowHelp(m_environment, FrontHelpPage()); });
+    act(m_actions->mnuAbout, [this] { ShowAbout(m_environment.application, *this); });
+    act(m_actions->actFirst, [this] { m_browser->goToRow(0); });
+    act(m_actions->actPrevious, [this] { m_browser->goToRow(m_browser->row() - 1); });
+    act(m_actions->actNext, [this] { m_browser->goToRow(m_browser->row() + 1); });
+    act(m_actions->actLast, [this] { m_browser->goToRow(m_browser->rowCount() - 1); });
+    act(m_actions->actRunQuery, [this] { runQuery(cboQuery->currentText()); });
+}
+
+void frmAlbum::connectParts()
+{
+    connect(m_browser, &PictureBrowser::currentChanged, this, &frmAlbum::recordChanged);
+    connect(m_browser, &PictureBrowser::activated, this, &frmAlbum::editRecord);
+    connect(m_browser, &PictureBrowser::galleryLeft, this, [this] { showThumbnails(true); });
+    connect(m_editor, &RecordEditor::applied, this, &frmAlbum::recordApplied);
+    connect(m_editor, &RecordEditor::cancelled, this, &frmAlbum::recordCancelled);
+    connect(cboQuery, &QComboBox::textActivated, this, &frmAlbum::runQuery);
+    m_editor->setPersonPicker([this] { return ChoosePerson(m_file.connection(), m_environment, this); });
+    connect(m_halves, &QSplitter::splitterMoved, this, [this] {
+        m_environment.settings.setValue(setting::windows, splitterKey,
+                                        QString::fromLatin1(m_halves->saveState().toBase64()));
+    });
+}
+
+void frmAlbum::restoreSplitter()
+{
+    m_halves->restoreState(
+        QByteArray::fromBase64(m_environment.settings.value(setting::windows, splitterKey).toLatin1()));
+}
+
+// The family file.
+
+void frmAlbum::start(const QString& fileArgument)
+{
+    const QString last = m_environment.settings.value(setting::openCreateFamFile, setting::lastFamilyFile);
+    const QString path = fileArgument.isEmpty() ? last : FamilyFileOfArgument(fileArgument);
+    if (!path.isEmpty()) {
+        openThis(path);
+    }
+    if (!m_file.isOpen()) {
+        welcome();
+    }
+}
+
+void frmAlbum::welcome()
+{
+    switch (AskAtWelcome(*this)) {
+    case WelcomeChoice::Create:
+        newFile();
+        break;
+    case WelcomeChoice::Open:
+        openFile();
+        break;
+    case WelcomeChoice::Cats:
+        openSample();
+        break;
+    case WelcomeChoice::None:
+        break;
+    }
+}
+
+void frmAlbum::newFile()
+{
+    if (!leaveRecord()) {
+        return;
+    }
+    const auto path = m_environment.talk.chooseFile(storemessages::ChooseNewFamilyFile());
+    if (path && CreateNewFamilyFile(m_file, *path, m_environment)) {
+        showFile();
+    }
+}
+
+void frmAlbum::openFile()
+{
+    if (!leaveRecord()) {
+        return;
+    }
+    if (const auto path = m_environment.talk.chooseFile(storemessages::ChooseFamilyFile())) {
+        openThis(*path);
+    }
+}
+
+void frmAlbum::openThis(const QString& path)
+{
+    if (leaveRecord() && OpenAlbum(m_file, path, m_environment)) {
+        showFile();
+    }
+}
+
+void frmAlbum::openSample()
+{
+    if (leaveRecord() && OpenTestDB(m_file, m_environment)) {
+        showFile();
+    }
+}
+
+void frmAlbum::saveAs()
+{
+    if (!leaveRecord()) {
+        return;
+    }
+    if (const auto path = m_environment.talk.chooseFile(storemessages::ChooseCopy())) {
+        SaveFamilyFileAs(m_file, *path, m_environment);
+    }
+}
+
+/// Fills the window from the family file, or empties it.
+void frmAlbum::showFile()
+{
+    const QString application = QApplication::applicationDisplayName();
+    setWindowTitle(m_file.isOpen() ? application + QStringLiteral(" - ") + QDir::toNativeSeparators(m_file.path())
+                                   : application);
+    m_queryName.clear();
+    fillRecentFiles();
+    if (m_file.isOpen()) {
+        refill(std::nullopt);
+    } else {
+        m_editor->showNothing(appmessages::NoFile());
+        SetToolbar();
+    }
+}
+
+void frmAlbum::fillRecentFiles()
+{
+    m_actions->mnuRecent->clear();
+    int number = 0;
+    for (const QString& path : RecentFamilyFiles(m_environment.settings)) {
+        QString caption = QDir::toNativeSeparators(path);
+        caption.replace(u'&', QStringLiteral("&&"));
+        QAction* action = m_actions->mnuRecent->addAction(QStringLiteral("&%1  %2").arg(++number % 10).arg(caption));
+        connect(action, &QAction::triggered, this, [this, path] { openThis(path); });
+    }
+    m_actions->mnuRecent->setEnabled(number > 0);
+}
+
+void frmAlbum::importGedcom()
+{
+    if (leaveRecord() && ImportGedcomInto(m_file, m_environment, *this)) {
+        refill(m_browser->current());
+    }
+}
+
+void frmAlbum::exportList()
+{
+    if (m_browser->table()) {
+        ShowExportWindow(*m_browser->table(), m_environment, this);
+    }
+}
+
+void frmAlbum::showProperties()
+{
+    ShowProperties(m_file, m_environment, this);
+}
+
+// The list of pictures.
+
+void frmAlbum::fillQueries()
+{
+    cboQuery->clear();
+    cboQuery->addItems(QueryManager(m_file.connection(), m_environment).names());
+    cboQuery->setCurrentText(m_queryName);
+}
+
+void frmAlbum::runQuery(const QString& name)
+{
+    if (!name.isEmpty() && leaveRecord()) {
+        m_queryName = name;
+        refill(m_browser->current());
+    }
+}
+
+/// Runs the current query anew; `wanted` is the picture to go to.
+void frmAlbum::refill(std::optional<int> wanted)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    std::optional<PictureTable> table = OpenPictureList(m_file.connection(), m_environment, m_queryName);
+    QApplication::restoreOverrideCursor();
+    if (table) {
+        m_queryName = table->queryName();
+    }
+    m_browser->setList(std::move(table), &m_file.connection(), wanted);
+    fillQueries();
+    SetToolbar();
+}
+
+void frmAlbum::manageQueries()
+{
+    if (!leaveRecord()) {
+        return;
+    }
+    const auto run = ShowQueries(m_file.connection(), m_environment, m_queryName, this);
+    if (run) {
+        m_queryName = *run;
+    }
+    refill(m_browser->current());
+}
+
+/// Another picture became current.
+void frmAlbum::recordChanged()
+{
+    if (m_editor->isEditing()) {
+        return;
+    }
+    if (const std::optional<int> current = m_browser->current()) {
+        m_editor->showRecord(m_file.connection(), *current);
+    } else {
+        m_editor->showNothing(m_file.isOpen() ? appmessages::EmptyList() : appmessages::NoFile());
+    }
+    SetToolbar();
+}
+
+void frmAlbum::findPicture()
+{
+    PictureList list(m_queryName, m_browser->table()->pictureIds());
+    if (list.find(m_environment.talk)) {
+        m_browser->setCurrent(*list.current());
+    }
+}
+
+void frmAlbum::showThumbnails(bool thumbnails)
+{
+    if (!m_browser->showThumbnails(thumbnails)) {
+        statusBar()->showMessage(appmessages::TooLongForGallery(), 10'000);
+    }
+    m_actions->mnuThumbView->setChecked(m_browser->showsThumbnails());
+}
+
+// The record.
+
+void frmAlbum::addRecord(const QString& pictureFile)
+{
+    DisableUpperHalf();
+    m_editor->add(m_file.connection(), m_browser->current(), pictureFile);
+    SetToolbar();
+}
+
+void frmAlbum::editRecord()
+{
+    if (const std::optional<int> current = m_browser->current(); current && state() == State::Browsing) {
+        if (m_editor->edit(m_file.connection(), *current)) {
+            DisableUpperHalf();
+        }
+        SetToolbar();
+    }
+}
+
+void frmAlbum::deleteRecord()
+{
+    PictureList list(m_queryName, m_browser->table()->pictureIds());
+    list.goTo(*m_browser->current());
+    try {
+        if (list.removeCurrent(m_file.connection(), m_environment.talk)) {
+            refill(list.current());
+        }
+    } catch (const std::exception& exception) {
+        m_environment.talk.tell(appmessages::CannotDelete(ReasonText(exception)));
+    }
+}
+
+void frmAlbum::recordApplied(int pictureId)
+{
+    refill(pictureId);
+    EnableUpperHalf();
+}
+
+void frmAlbum::recordCancelled(int pictureId)
+{
+    if (!m_browser->setCurrent(pictureId)) {
+        m_browser->goToRow(m_browser->row());
+    }
+    recordChanged();
+    EnableUpperHalf();
+}
+
+void frmAlbum::DisableUpperHalf()
+{
+    m_browser->setEnabled(false);
+}
+
+void frmAlbum::EnableUpperHalf()
+{
+    m_browser->setEnabled(true);
+    m_browser->setFocus();
+    SetToolbar();
+}
+
+bool frmAlbum::leaveRecord()
+{
+    if (!m_editor->isEditing()) {
+        return true;
+    }
+    switch (m_environment.talk.ask(albummessages::SavingTheChanges())) {
+    case Button::Yes:
+        return m_editor->apply();
+    case Button::No:
+        m_editor->cancel();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void frmAlbum::editContacts()
+{
+    ShowListOfNames(m_file.connection(), m_environment, this);
+}
+
+// What can be done now.
+
+frmAlbum::State frmAlbum::state() const
+{
+    if (!m_file.isOpen()) {
+        return State::NoFile;
+    }
+    if (m_editor->isEditing()) {
+        return State::Editing;
+    }
+    return m_browser->rowCount() == 0 ? State::EmptyList : State::Browsing;
+}
+
+void frmAlbum::SetToolbar()
+{
+    const State now = state();
+    const bool open = now != State::NoFile;
+    const bool idle = now == State::EmptyList || now == State::Browsing;
+    const bool browsing = now == State::Browsing;
+    for (QAction* action : {m_actions->mnuSaveAs, m_actions->mnuProperties}) {
+        action->setEnabled(open);
+    }
+    for (QAction* action : {m_actions->mnuImportGedcom, m_actions->mnuAddPicRec, m_actions->mnuQueries,
+                            m_actions->mnuContEdit, m_actions->actRunQuery, m_actions->mnuExportTabletoText}) {
+        action->setEnabled(idle);
+    }
+    for (QAction* action :
+         {m_actions->mnuEditPicRec, m_actions->mnuDelPicRec, m_actions->mnuFind, m_actions->mnuThumbView}) {
+        action->setEnabled(browsing);
+    }
+    const int row = m_browser->row();
+    m_actions->actFirst->setEnabled(browsing && row > 0);
+    m_actions->actPrevious->setEnabled(browsing && row > 0);
+    m_actions->actNext->setEnabled(browsing && row < m_browser->rowCount() - 1);
+    m_actions->actLast->setEnabled(browsing && row < m_browser->rowCount() - 1);
+    m_actions->mnuApply->setEnabled(now == State::Editing);
+    cboQuery->setEnabled(idle);
+    showPosition();
+}
+
+void frmAlbum::showPosition()
+{
+    switch (state()) {
+    case State::NoFile:
+        lblPosition->clear();
+        break;
+    case State::EmptyList:
+        lblPosition->setText(QStringLiteral("No pictures"));
+        break;
+    case State::Browsing:
+        lblPosition->setText(
+            QStringLiteral("Picture %1 of %2").arg(m_browser->row() + 1).arg(m_browser->rowCount()));
+        break;
+    case State::Editing:
+        lblPosition->setText(QStringLiteral("Editing"));
+        break;
+    }
+}
+
+// Events.
+
+void frmAlbum::closeEvent(QCloseEvent* event)
+{
+    if (leaveRecord()) {
+        event->accept();
+    } else {
+        event->ignore();
+    }
+}
+
+void frmAlbum::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (m_file.isOpen() && event->mimeData()->hasUrls()) {
+        event->acceptProposedAction();
+    }
+}
+
+/// A picture file begins a new record, or becomes the picture of the one that is being edited.
+void frmAlbum::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    // The program from which the file comes waits until this is over, so whatever asks the user comes after it.
+    const auto later = [this](auto action) { QTimer::singleShot(0, this, action); };
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() != 1 || !urls.constFirst().isLocalFile() ||
+        !QFileInfo(urls.constFirst().toLocalFile()).isFile()) {
+        later([this] { m_environment.talk.tell(appmessages::DropOnePicture()); });
+        return;
+    }
+    later([this, path = urls.constFirst().toLocalFile()] {
+        if (m_editor->isEditing()) {
+            m_editor->choosePictureFile(path);
+        } else {
+            addRecord(path);
+        }
+    });
+}
+
+} // namespace stemwright

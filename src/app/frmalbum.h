@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/environment.h"
+#include "store/file/familyfile.h"
+
+#include <QtWidgets/QMainWindow>
+
+class QComboBox;
+class QLabel;
+class QMenu;
+class QSplitter;
+
+/// The main window: above, the current list of pictures; below, the record of the current one. It decides what can be
+/// done when, and calls the domain's procedures for it; what they have to say they say themselves. Nothing here fails.
+/// Stands on all of the domain.
+namespace stemwright
+{
+
+struct AlbumActions;
+class PictureBrowser;
+class RecordEditor;
+
+class frmAlbum : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// `environment` must outlive the window.
+    explicit frmAlbum(Environment& environment);
+    ~frmAlbum() override;
+
+    /// Opens the family file that the program was started with, or the last one; without any, or where that does not
+    /// open, the welcome window offers what to do.
+    void start(const QString& fileArgument);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    enum class State { NoFile, EmptyList, Browsing, Editing };
+
+    void connectActions();
+    void connectParts();
+    void restoreSplitter();
+
+    // The family file.
+    void newFile();
+    void openFile();
+    void openThis(const QString& path);
+    void openSample();
+    void saveAs();
+    void welcome();
+    void showFile();
+    void fillRecentFiles();
+    void importGedcom();
+    void exportList();
+    void showProperties();
+
+    // The list of pictures.
+    void fillQueries();
+    void runQuery(const QString& name);
+    void refill(std::optional<int> wanted);
+    void manageQueries();
+    void recordChanged();
+    void findPicture();
+    void showThumbnails(bool thumbnails);
+
+    // The record.
+    void addRecord(const QString& pictureFile = {});
+    void editRecord();
+    void deleteRecord();
+    void recordApplied(int pictureId);
+    void recordCancelled(int pictureId);
+    void DisableUpperHalf();
+    void EnableUpperHalf();
+    /// Asks what becomes of a record that is being edited. False when the user wants to go on editing it.
+    bool leaveRecord();
+
+    // People.
+    void editContacts();
+
+    State state() const;
+    /// Enables what can be done now.
+    void SetToolbar();
+    void showPosition();
+
+    Environment& m_environment;
+    FamilyFile m_file;
+    QString m_queryName;
+    std::unique_ptr<AlbumActions> m_actions;
+    PictureBrowser* m_browser;
+    RecordEditor* m_editor;
+    QSplitter* m_halves;
+    QComboBox* cboQuery;
+    QLabel* lblPosition;
+};
+
+} // namespace stemwright

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "app/dialogtalk.h"
+#include "app/frmabout.h"
+#include "app/frmalbum.h"
+#include "app/messages.h"
+#include "base/error.h"
+#include "base/version.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QLoggingCategory>
+#include <QtGui/QIcon>
+#include <QtWidgets/QApplication>
+
+namespace stemwright
+{
+
+namespace
+{
+
+/// The family file that the program was started with; empty for none.
+QString FileArgument(const QApplication& application)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(appmessages::Purpose());
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The family file to open"),
+                                 QStringLiteral("[FILE]"));
+    parser.process(application);
+    return parser.positionalArguments().value(0);
+}
+
+int Run(QApplication& program)
+{
+    FileSettings settings;
+    DialogTalk talk(settings);
+    const SystemClock clock;
+    try {
+        const QString file = FileArgument(program);
+        const ApplicationFolder application = ApplicationFolder::ofProgram();
+        QApplication::setWindowIcon(QIcon(application.file(QStringLiteral("icons/stemwright.svg"))));
+        Environment environment{talk, settings, clock, application};
+        auto* splash = new frmSplash(application);
+        splash->show();
+        QApplication::processEvents();
+        frmAlbum window(environment);
+        window.show();
+        splash->raise();
+        splash->finish();
+        window.start(file);
+        return QApplication::exec();
+    } catch (const std::exception& exception) {
+        talk.tell(appmessages::Failed(ErrorText(exception)));
+        return 1;
+    }
+}
+
+} // namespace
+
+} // namespace stemwright
+
+int main(int argc, char** argv)
+{
+    QApplication program(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Stemwright"));
+    QApplication::setApplicationVersion(QString::fromLatin1(stemwright::versionText));
+    // What a decoder has to say about a flaw of a picture is no message to a user.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));
+    return stemwright::Run(program);
+}

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "app/messages.h"
+
+#include "base/version.h"
+
+namespace stemwright::appmessages
+{
+
+QString NoPicture()
+{
+    return QStringLiteral("This record has no picture.");
+}
+
+QString NoPictureYet()
+{
+    return QStringLiteral("Press Browse... to choose a picture, or drop a picture file here.");
+}
+
+QString EmptyList()
+{
+    return QStringLiteral("There is no picture in this list. Use Pictures > Add Picture Record to add one, or drop a "
+                          "picture file here.");
+}
+
+QString NoFile()
+{
+    return QStringLiteral("No family file is open. Use File > New Family File or File > Open Family File.");
+}
+
+QString CannotShowPicture(const QString& reason)
+{
+    return QStringLiteral("The picture cannot be shown.\n\n") + reason;
+}
+
+Message CannotEdit(const QString& reason)
+{
+    return {QStringLiteral("Edit Picture Record"),
+            QStringLiteral("The record cannot be edited.\n\n") + reason,
+            Icon::Critical};
+}
+
+Message CannotApply(const QString& reason)
+{
+    return {QStringLiteral("Apply"),
+            QStringLiteral("The record could not be written; nothing in the family file has changed.\n\n%1").arg(reason),
+            Icon::Critical};
+}
+
+Message CannotEnterName(const QString& reason)
+{
+    return {QStringLiteral("Persons in the Picture"), reason, Icon::Warning};
+}
+
+Message CannotDelete(const QString& reason)
+{
+    return {QStringLiteral("Delete Picture Record"),
+            QStringLiteral("The record could not be deleted; nothing in the family file has changed.\n\n%1").arg(reason),
+            Icon::Critical};
+}
+
+Message Failed(const QString& reason)
+{
+    return {{}, reason, Icon::Critical};
+}
+
+Message DropOnePicture()
+{
+    return {QStringLiteral("Open Picture"),
+            QStringLiteral("Please drop one picture file (*.gif; *.jpg) at a time."),
+            Icon::Information};
+}
+
+QString TooLongForGallery()
+{
+    return QStringLiteral("This list is too long to be shown as thumbnails. A query with a filter makes it shorter.");
+}
+
+QString Welcome()
+{
+    return QStringLiteral("Welcome to Stemwright! To create a new family file, click Create. If you want to open an "
+                          "existing family file, click Open. If you want to open the test file, containing an "
+                          "imaginary cat family, click Cats.");
+}
+
+QString VersionText()
+{
+    return QStringLiteral("Version ") + QString::fromLatin1(versionText);
+}
+
+QString Purpose()
+{
+    return QStringLiteral("Keeps a family tree and a photo album in one file and publishes both as a web site.");
+}
+
+QString Credits()
+{
+    return QStringLiteral("Made by the Stemwright authors.\nFree software under the MIT licence; it comes without any "
+                          "warranty.\n\nBuilt with Qt, SQLite, SQLiteCpp and ICU.");
+}
+
+Message CannotOpenHelp(const QString& path)
+{
+    return {QStringLiteral("Help"),
+            QStringLiteral("No program was found that shows the manual. It begins at\n%1").arg(path),
+            Icon::Information};
+}
+
+} // namespace stemwright::appmessages

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "base/talk.h"
+
+/// The texts of the windows that belong to no procedure of the domain, and of what they can only learn themselves.
+namespace stemwright::appmessages
+{
+
+// What is shown in the place of a picture.
+QString NoPicture();
+QString NoPictureYet();
+QString EmptyList();
+QString NoFile();
+QString CannotShowPicture(const QString& reason);
+
+// A record that does not open or cannot be written. Reasons are whole sentences.
+Message CannotEdit(const QString& reason);
+Message CannotApply(const QString& reason);
+Message CannotEnterName(const QString& reason);
+Message CannotDelete(const QString& reason);
+
+/// Something went wrong that no procedure has told.
+Message Failed(const QString& reason);
+
+/// What was dropped onto the window is no single picture file.
+Message DropOnePicture();
+/// The list is too long for thumbnails.
+QString TooLongForGallery();
+
+/// No browser shows the manual.
+Message CannotOpenHelp(const QString& path);
+
+QString Welcome();
+QString VersionText();
+QString Purpose();
+QString Credits();
+
+} // namespace stemwright::appmessages

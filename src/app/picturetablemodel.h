@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "queries/picturetable.h"
+
+#include <QtCore/QAbstractTableModel>
+#include <QtCore/QCache>
+#include <QtGui/QPixmap>
+
+/// The current list of pictures for the grid and the gallery: its cells, and for the gallery the thumbnails of those
+/// that are in view. Nothing here fails. Stands on the list in memory.
+namespace stemwright
+{
+
+class PictureTableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    explicit PictureTableModel(QObject* parent);
+
+    /// Replaces the list; no value for none. `connection` gives the thumbnails and must outlive the list.
+    void setTable(std::optional<PictureTable> table, Connection* connection);
+
+    const std::optional<PictureTable>& table() const { return m_table; }
+
+    /// The row of a picture; -1 when the list does not have it.
+    int rowOf(int pictureId) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    /// Sorts by a column, the other way round when it is sorted by it already.
+    void sortBy(int column);
+
+private:
+    QPixmap thumbnail(int pictureId) const;
+
+    std::optional<PictureTable> m_table;
+    Connection* m_connection = nullptr;
+    mutable QCache<int, QPixmap> m_thumbnails;
+};
+
+} // namespace stemwright

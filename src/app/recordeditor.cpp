@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "app/recordeditor.h"
+
+#include "album/messages.h"
+#include "app/controls.h"
+#include "app/frmdate.h"
+#include "app/messages.h"
+#include "app/personspanel.h"
+#include "app/pictureview.h"
+#include "app/recordform.h"
+#include "base/error.h"
+#include "base/files.h"
+#include "store/engine/engineerror.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QSplitter>
+
+namespace stemwright
+{
+
+namespace
+{
+
+/// A column that scrolls where a window is too low for it.
+QWidget* Scrolling(QWidget* content)
+{
+    auto* area = new QScrollArea;
+    area->setWidget(content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setMinimumWidth(content->minimumSizeHint().width() + 16);
+    return area;
+}
+
+} // namespace
+
+RecordEditor::RecordEditor(Environment& environment, QWidget* parent)
+    : QWidget(parent), m_environment(environment), m_parts(new QSplitter(Qt::Horizontal, this)),
+      m_form(new RecordForm(this)),
+      m_view(new PictureView(environment.application.file(QStringLiteral("ArrowPointer.gif")), this)),
+      m_persons(new PersonsPanel(*m_view, environment, this)),
+      cmdApply(MakeButton("cmdApply", QStringLiteral("Apply"),
+                          QStringLiteral("Write new/modified record to the album"))),
+      cmdCancel(MakeButton("cmdCancel", QStringLiteral("Cancel"), QStringLiteral("Discard the changes")))
+{
+    auto* record = new QWidget;
+    auto* recordLayout = new QVBoxLayout(record);
+    recordLayout->setContentsMargins(0, 0, 0, 0);
+    recordLayout->addWidget(Scrolling(m_form), 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdApply);
+    buttons->addWidget(cmdCancel);
+    buttons->addStretch();
+    recordLayout->addLayout(buttons);
+
+    m_parts->setObjectName(QStringLiteral("splRecord"));
+    m_parts->addWidget(record);
+    m_parts->addWidget(Scrolling(m_persons));
+    m_parts->addWidget(m_view);
+    m_parts->setStretchFactor(2, 1);
+    m_parts->setChildrenCollapsible(false);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addWidget(m_parts);
+
+    connect(cmdApply, &QPushButton::clicked, this, &RecordEditor::apply);
+    connect(cmdCancel, &QPushButton::clicked, this, &RecordEditor::cancel);
+    connect(m_form, &RecordForm::choosePicture, this, &RecordEditor::choosePicture);
+    connect(m_form, &RecordForm::chooseDate, this, &RecordEditor::chooseDate);
+    setButtons();
+}
+
+void RecordEditor::setPersonPicker(PersonPicker picker)
+{
+    m_persons->setPersonPicker(std::move(picker));
+}
+
+void RecordEditor::setButtons()
+{
+    cmdApply->setEnabled(isEditing());
+    cmdCancel->setEnabled(isEditing());
+}
+
+void RecordEditor::showPictureOf(Connection& connection, int pictureId)
+{
+    try {
+        const QByteArray bytes = StoredPicture(connection, pictureId);
+        if (bytes.isEmpty()) {
+            m_view->showText(appmessages::NoPicture());
+        } else {
+            m_view->showPicture(ImageFile(bytes));
+        }
+    } catch (const std::exception& exception) {
+        m_view->showText(appmessages::CannotShowPicture(ReasonText(exception)));
+    }
+}
+
+void RecordEditor::showRecord(Connection& connection, int pictureId)
+{
+    try {
+        const PictureRecord record = LoadPictureRecord(connection, pictureId);
+        PersonMarks marks;
+        marks.LoadPersonList(connection, pictureId);
+        showPictureOf(connection, pictureId);
+        m_form->show(record);
+        m_persons->show(marks, record.pointer);
+    } catch (const std::exception& exception) {
+        showNothing(ReasonText(exception));
+    }
+}
+
+void RecordEditor::showNothing(const QString& text)
+{
+    m_view->showText(text);
+    m_form->show(std::nullopt);
+    m_persons->show({}, PointerTool::Rectangle);
+    m_editing.reset();
+    setButtons();
+}
+
+void RecordEditor::open()
+{
+    m_form->edit(*m_editing, KnownPlaces(*m_connection));
+    m_persons->edit(*m_editing);
+    setButtons();
+}
+
+void RecordEditor::add(Connection& connection, std::optional<int> current, const QString& pictureFile)
+{
+    m_connection = &connection;
+    m_editing.emplace(connection, m_environment);
+    m_editing->AddPicRec(current);
+    m_view->showText(appmessages::NoPictureYet());
+    open();
+    if (!pictureFile.isEmpty()) {
+        choosePictureFile(pictureFile);
+    }
+}
+
+bool RecordEditor::edit(Connection& connection, int pictureId)
+{
+    m_connection = &connection;
+    try {
+        m_editing.emplace(connection, m_environment);
+        m_editing->EditPicRec(pictureId);
+        open();
+        return true;
+    } catch (const std::exception& exception) {
+        m_editing.reset();
+        m_environment.talk.tell(appmessages::CannotEdit(ReasonText(exception)));
+        return false;
+    }
+}
+
+void RecordEditor::choosePicture()
+{
+    if (const auto path = m_environment.talk.chooseFile(albummessages::OpenPicture())) {
+        choosePictureFile(*path);
+    }
+}
+
+void RecordEditor::choosePictureFile(const QString& path)
+{
+    if (m_editing && m_editing->choosePicture(path)) {
+        showChosenPicture();
+        m_form->refresh();
+        m_persons->refresh();
+    }
+}
+
+void RecordEditor::showChosenPicture()
+{
+    try {
+        m_view->showPicture(ImageFile(ReadWholeFile(m_editing->chosenPath())));
+    } catch (const std::exception& exception) {
+        m_view->showText(appmessages::CannotShowPicture(ReasonText(exception)));
+    }
+}
+
+void RecordEditor::chooseDate()
+{
+    if (const auto date = ChooseDate(m_editing->record().encodedDate, m_environment, this)) {
+        m_editing->setDate(*date);
+        m_form->refresh();
+    }
+}
+
+bool RecordEditor::apply()
+{
+    if (!m_editing || !m_persons->enterPendingName()) {
+        return false;
+    }
+    int pictureId = 0;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    std::optional<QString> failure;
+    try {
+        pictureId = m_editing->apply();
+    } catch (const std::exception& exception) {
+        failure = ReasonText(exception);
+    }
+    QGuiApplication::restoreOverrideCursor();
+    if (failure) {
+        m_environment.talk.tell(appmessages::CannotApply(*failure));
+        return false;
+    }
+    m_form->show(std::nullopt);
+    m_persons->show({}, PointerTool::Rectangle);
+    m_editing.reset();
+    setButtons();
+    Q_EMIT applied(pictureId);
+    return true;
+}
+
+void RecordEditor::cancel()
+{
+    if (!m_editing) {
+        return;
+    }
+    const std::optional<int> pictureId = m_editing->cancel();
+    showNothing({});
+    Q_EMIT cancelled(pictureId.value_or(0));
+}
+
+} // namespace stemwright
