@@ -125,8 +125,8 @@ def album_pointer():
     canvas = Canvas(44, 44)
     pointer(canvas, 44, (214, 40, 32))
     whole = canvas.rimmed().finished()
-    left, top, right, bottom = whole.getbbox()
-    return whole.crop((left, top, right, bottom))
+    opaque = whole.getchannel("A").point(lambda alpha: 255 if alpha > 127 else 0)
+    return whole.crop(opaque.getbbox())
 
 
 SIGNS = {
