@@ -9,6 +9,7 @@
 #include <QtGui/QShortcut>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -94,6 +95,16 @@ QLineEdit* MakeLine(const char* name, const QString& toolTip)
     line->setToolTip(toolTip);
     line->setMaxLength(longestPaste);
     return line;
+}
+
+QDialogButtonBox* MakeOkCancel(QDialog& window)
+{
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
+    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
+    return buttons;
 }
 
 void LetCopy(QAbstractItemView& view)

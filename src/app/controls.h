@@ -28,6 +28,9 @@ QLabel* MakeLabel(const char* name, const QString& text = {});
 /// applied, not cut silently.
 QLineEdit* MakeLine(const char* name, const QString& toolTip = {});
 
+/// OK (`cmdOK`) and Cancel (`cmdCancel`) that accept and reject the window.
+QDialogButtonBox* MakeOkCancel(QDialog& window);
+
 /// Makes Ctrl+C copy the selected rows of a list or grid as lines of text with tabs between the columns.
 void LetCopy(QAbstractItemView& view);
 

@@ -6,6 +6,7 @@
 #include "album/picturelist.h"
 #include "app/albumactions.h"
 #include "app/controls.h"
+#include "app/dialogtalk.h"
 #include "app/frmabout.h"
 #include "app/frmexporttableastext.h"
 #include "app/frmindex4addr.h"
@@ -18,6 +19,7 @@
 #include "app/messages.h"
 #include "app/picturebrowser.h"
 #include "app/recordeditor.h"
+#include "index/messages.h"
 #include "queries/querymanager.h"
 #include "store/engine/engineerror.h"
 #include "store/file/fileflows.h"
@@ -118,7 +120,7 @@ void frmAlbum::connectParts()
     connect(m_editor, &RecordEditor::applied, this, &frmAlbum::recordApplied);
     connect(m_editor, &RecordEditor::cancelled, this, &frmAlbum::recordCancelled);
     connect(cboQuery, &QComboBox::textActivated, this, &frmAlbum::runQuery);
-    m_editor->setPersonPicker([this] { return ChoosePerson(m_file.connection(), m_environment, this); });
+    m_editor->setPersonPicker([this] { return pickPerson(); });
     connect(m_halves, &QSplitter::splitterMoved, this, [this] {
         m_environment.settings.setValue(setting::windows, splitterKey,
                                         QString::fromLatin1(m_halves->saveState().toBase64()));
@@ -214,6 +216,7 @@ void frmAlbum::showFile()
     setWindowTitle(m_file.isOpen() ? application + QStringLiteral(" - ") + QDir::toNativeSeparators(m_file.path())
                                    : application);
     m_queryName.clear();
+    m_nameIndex.reset();
     fillRecentFiles();
     if (m_file.isOpen()) {
         refill(std::nullopt);
@@ -239,6 +242,7 @@ void frmAlbum::fillRecentFiles()
 void frmAlbum::importGedcom()
 {
     if (leaveRecord() && ImportGedcomInto(m_file, m_environment, *this)) {
+        m_nameIndex.reset();
         refill(m_browser->current());
     }
 }
@@ -246,7 +250,7 @@ void frmAlbum::importGedcom()
 void frmAlbum::exportList()
 {
     if (m_browser->table()) {
-        ShowExportWindow(*m_browser->table(), m_environment, this);
+        ShowExportWindow(*m_browser->table(), m_file.path(), m_environment, this);
     }
 }
 
@@ -291,7 +295,8 @@ void frmAlbum::manageQueries()
     if (!leaveRecord()) {
         return;
     }
-    const auto run = ShowQueries(m_file.connection(), m_environment, m_queryName, this);
+    const auto run =
+        ShowQueries(m_file.connection(), m_environment, m_queryName, [this] { return pickPerson(); }, this);
     if (run) {
         m_queryName = *run;
     }
@@ -405,7 +410,38 @@ bool frmAlbum::leaveRecord()
 
 void frmAlbum::editContacts()
 {
-    ShowListOfNames(m_file.connection(), m_environment, this);
+    if (openNameIndex(indexmessages::NoListOfNames())) {
+        ShowListOfNames(*m_nameIndex, m_file.connection(), m_environment, this);
+    }
+}
+
+std::optional<ChosenPerson> frmAlbum::pickPerson()
+{
+    if (!openNameIndex(indexmessages::NoIndexOfNames())) {
+        return std::nullopt;
+    }
+    return ChoosePerson(*m_nameIndex, m_environment, FrontWindow());
+}
+
+/// The index is read when it is needed first, and again after the tree was replaced.
+bool frmAlbum::openNameIndex(const Message& absence)
+{
+    if (m_nameIndex) {
+        return true;
+    }
+    bool opened = false;
+    std::optional<QString> failure;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    try {
+        opened = OpenNameIndex(m_nameIndex, m_file.connection());
+    } catch (const std::exception& exception) {
+        failure = ReasonText(exception);
+    }
+    QApplication::restoreOverrideCursor();
+    if (!opened) {
+        m_environment.talk.tell(failure ? appmessages::Failed(*failure) : absence);
+    }
+    return opened;
 }
 
 // What can be done now.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/environment.h"
+#include "index/namesearch.h"
 #include "store/file/familyfile.h"
 
 #include <QtWidgets/QMainWindow>
@@ -82,6 +83,9 @@ private:
 
     // People.
     void editContacts();
+    std::optional<ChosenPerson> pickPerson();
+    /// Makes the index of names available. False, after `absence` was told, when the tree has nobody.
+    bool openNameIndex(const Message& absence);
 
     State state() const;
     /// Enables what can be done now.
@@ -91,6 +95,7 @@ private:
     Environment& m_environment;
     FamilyFile m_file;
     QString m_queryName;
+    std::optional<NameIndex> m_nameIndex;
     std::unique_ptr<AlbumActions> m_actions;
     PictureBrowser* m_browser;
     RecordEditor* m_editor;

@@ -132,12 +132,8 @@ private:
             m_picker = DatePicker();
             showFields();
         });
-        auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-        buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-        buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
+        QDialogButtonBox* buttons = MakeOkCancel(*this);
         buttons->addButton(clear, QDialogButtonBox::ResetRole);
-        connect(buttons, &QDialogButtonBox::accepted, this, &frmDate::accept);
-        connect(buttons, &QDialogButtonBox::rejected, this, &frmDate::reject);
         auto* layout = new QVBoxLayout(this);
         layout->addLayout(grid);
         layout->addStretch();

@@ -301,7 +301,7 @@ void PersonsPanel::pickPerson()
     if (!person) {
         return;
     }
-    m_entry.pick(person->id, person->fullName);
+    m_entry.pick(person->id, person->name);
     showEntry();
     txtName->setFocus();
 }
