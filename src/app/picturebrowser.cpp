@@ -32,7 +32,7 @@ public:
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        const auto thumbnail = index.data(Qt::DecorationRole).value<QPixmap>();
+        const auto thumbnail = index.data(PictureTableModel::thumbnailRole).value<QPixmap>();
         if (option.state.testFlag(QStyle::State_Selected)) {
             painter->fillRect(option.rect.adjusted(1, 1, -1, -1), option.palette.highlight());
         }

@@ -52,7 +52,7 @@ QVariant PictureTableModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return m_table->shown(row, static_cast<std::size_t>(index.column()));
-    case Qt::DecorationRole:
+    case thumbnailRole:
         return thumbnail(m_table->pictureId(row));
     default:
         return {};

@@ -18,6 +18,9 @@ class PictureTableModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
+    /// The role of a picture's thumbnail, a QPixmap; null for a picture without one.
+    static constexpr int thumbnailRole = Qt::UserRole;
+
     explicit PictureTableModel(QObject* parent);
 
     /// Replaces the list; no value for none. `connection` gives the thumbnails and must outlive the list.
