@@ -163,6 +163,7 @@ private:
         QLineEdit* line = MakeLine("");
         line->setObjectName(ControlName("txt", column));
         line->setAccessibleName(column);
+        line->setMinimumWidth(line->fontMetrics().averageCharWidth() * 24);
         connect(line, &QLineEdit::editingFinished, this, [this, line, column] {
             // A field that is only left has not been changed.
             if (line->isModified()) {

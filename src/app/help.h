@@ -4,8 +4,9 @@
 
 #include "base/environment.h"
 
-#include <QtCore/QString>
+#include <QtCore/QObject>
 
+/// The manual: opening it, and the key that opens it in every window. Nothing here fails.
 namespace stemwright
 {
 
@@ -15,5 +16,17 @@ void ShowHelp(Environment& environment, const QString& page);
 
 /// The page about the window that is in front.
 QString FrontHelpPage();
+
+/// Makes F1 open the page about the window in which it is pressed. `environment` must outlive it.
+class HelpKey : public QObject
+{
+public:
+    explicit HelpKey(Environment& environment);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    Environment& m_environment;
+};
 
 } // namespace stemwright

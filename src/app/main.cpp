@@ -3,6 +3,7 @@
 #include "app/dialogtalk.h"
 #include "app/frmabout.h"
 #include "app/frmalbum.h"
+#include "app/help.h"
 #include "app/messages.h"
 #include "base/error.h"
 #include "base/version.h"
@@ -44,6 +45,7 @@ int Run(QApplication& program)
         auto* splash = new frmSplash(application);
         splash->show();
         QApplication::processEvents();
+        const HelpKey helpKey(environment);
         frmAlbum window(environment);
         window.show();
         splash->raise();

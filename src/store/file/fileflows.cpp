@@ -37,6 +37,14 @@ void Remember(const FamilyFile& file, Settings& settings)
                       recent.first(std::min(recent.size(), mostRecentFiles)).join(u'\n'));
 }
 
+/// Makes the sites of a copied sample family go where its user can write.
+void MovePagesOfSetups(const QString& familyFile, const QString& pagesFolder)
+{
+    Connection connection(familyFile, OpenMode::ReadWrite);
+    Statement update = connection.prepare(QStringLiteral("UPDATE WebSiteInfo SET WebPageFolder = ?1 || SetupName"));
+    update.bind(1, pagesFolder + u'/').run();
+}
+
 /// The sample family file in a place where it can be changed.
 QString WritableSampleFile(const ApplicationFolder& application)
 {
@@ -49,6 +57,7 @@ QString WritableSampleFile(const ApplicationFolder& application)
         CreateFolderPath(ApplicationFolder::userFolder());
         UnfinishedFile unfinished(own);
         WriteWholeFile(unfinished.path(), ReadWholeFile(shipped));
+        MovePagesOfSetups(unfinished.path(), application.pagesFolder());
         unfinished.putInPlace();
     }
     return own;
