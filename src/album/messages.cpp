@@ -103,11 +103,12 @@ Message ChangePointerToArrow()
 
 Message SavingTheChanges()
 {
-    return {QStringLiteral("Saving the changes"),
-            QStringLiteral("You were in the process of adding or modifying a record. Do you want to save your changes?"),
-            Icon::Question,
-            {Button::Yes, Button::No, Button::Cancel},
-            Button::Cancel};
+    return {
+        QStringLiteral("Saving the changes"),
+        QStringLiteral("You were in the process of adding or modifying a record. Do you want to save your changes?"),
+        Icon::Question,
+        {Button::Yes, Button::No, Button::Cancel},
+        Button::Cancel};
 }
 
 Message ReplaceFile(const QString& path)

@@ -67,8 +67,8 @@ constexpr qint64 largestStored = 256LL * 1024 * 1024;
 
 QByteArray StoredBytes(Connection& connection, const QString& column, int pictureId)
 {
-    Statement size = connection.prepare(
-        QStringLiteral("SELECT coalesce(length(%1), 0) FROM AlbumTOC WHERE PicId = ?1").arg(column));
+    Statement size =
+        connection.prepare(QStringLiteral("SELECT coalesce(length(%1), 0) FROM AlbumTOC WHERE PicId = ?1").arg(column));
     if (!size.bind(1, pictureId).step() || size.integer64(0) == 0) {
         return {};
     }

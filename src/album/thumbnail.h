@@ -8,7 +8,8 @@
 
 #include <QtCore/QSize>
 
-/// Thumbnails: which pictures get one, how large it is, its bytes. Sizes are in pixels. Pictures that cannot be decoded are refused with Error. Stands on image files and the connection.
+/// Thumbnails: which pictures get one, how large it is, its bytes. Sizes are in pixels. Pictures that cannot be decoded
+/// are refused with Error. Stands on image files and the connection.
 namespace stemwright
 {
 

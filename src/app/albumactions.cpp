@@ -68,8 +68,7 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     mnuContEdit = make("mnuContEdit", Caption("&Contact Info..."));
     mnuAddPicRec = make("mnuAddPicRec", Caption("&Add Picture Record"), Qt::Key_Insert, Caption("addpicrec"));
     mnuEditPicRec = make("mnuEditPicRec", Caption("&Edit Picture Record"), Qt::Key_F2, Caption("editpicrec"));
-    mnuDelPicRec =
-        make("mnuDelPicRec", Caption("&Delete Picture Record"), QKeySequence::Delete, Caption("delpicrec"));
+    mnuDelPicRec = make("mnuDelPicRec", Caption("&Delete Picture Record"), QKeySequence::Delete, Caption("delpicrec"));
     mnuApply = make("mnuApply", Caption("Appl&y Changes"), QKeySequence::Save);
     mnuQueries = make("mnuQueries", Caption("Picture List &Queries..."));
     mnuFind = make("mnuFind", Caption("&Find Picture by ID..."), QKeySequence::Find);
@@ -83,9 +82,9 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     actLast = make("last", Caption("Last Picture"), Qt::CTRL | Qt::Key_End, Caption("last"));
     actRunQuery = make("runquery", Caption("Run Query"), Qt::Key_F5, Caption("runquery"));
 
-    QMenu* file = AddMenu(window, Caption("&File"),
-                          {mnuNew, mnuOpen, mnuSaveAs, nullptr, mnuExportTabletoText, mnuImportGedcom, nullptr,
-                           mnuProperties, mnuExit});
+    QMenu* file = AddMenu(
+        window, Caption("&File"),
+        {mnuNew, mnuOpen, mnuSaveAs, nullptr, mnuExportTabletoText, mnuImportGedcom, nullptr, mnuProperties, mnuExit});
     mnuRecent = new QMenu(Caption("&Recent Family Files"), file);
     mnuRecent->setObjectName(Caption("mnuRecent"));
     file->insertMenu(mnuSaveAs, mnuRecent);
@@ -98,10 +97,9 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     toolbar->setObjectName(Caption("tlbMain"));
     toolbar->setMovable(false);
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
-    for (QAction* action :
-         {mnuNew, mnuOpen, static_cast<QAction*>(nullptr), actFirst, actPrevious, actNext, actLast,
-          static_cast<QAction*>(nullptr), mnuThumbView, static_cast<QAction*>(nullptr), mnuAddPicRec, mnuEditPicRec,
-          mnuDelPicRec, static_cast<QAction*>(nullptr)}) {
+    for (QAction* action : {mnuNew, mnuOpen, static_cast<QAction*>(nullptr), actFirst, actPrevious, actNext, actLast,
+                            static_cast<QAction*>(nullptr), mnuThumbView, static_cast<QAction*>(nullptr), mnuAddPicRec,
+                            mnuEditPicRec, mnuDelPicRec, static_cast<QAction*>(nullptr)}) {
         action != nullptr ? toolbar->addAction(action) : static_cast<void>(toolbar->addSeparator());
     }
 }

@@ -115,8 +115,7 @@ void LetCopy(QAbstractItemView& view)
 
 void RememberPlace(QWidget& window, Settings& settings)
 {
-    window.restoreGeometry(
-        QByteArray::fromBase64(settings.value(setting::windows, window.objectName()).toLatin1()));
+    window.restoreGeometry(QByteArray::fromBase64(settings.value(setting::windows, window.objectName()).toLatin1()));
     new PlaceKeeper(window, settings);
 }
 

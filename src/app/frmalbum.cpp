@@ -85,9 +85,7 @@ frmAlbum::~frmAlbum() = default;
 
 void frmAlbum::connectActions()
 {
-    const auto act = [this](QAction* action, auto procedure) {
-        connect(action, &QAction::triggered, this, procedure);
-    };
+    const auto act = [this](QAction* action, auto procedure) { connect(action, &QAction::triggered, this, procedure); };
     act(m_actions->mnuNew, [this] { newFile(); });
     act(m_actions->mnuOpen, [this] { openFile(); });
     act(m_actions->mnuSaveAs, [this] { saveAs(); });
@@ -295,8 +293,8 @@ void frmAlbum::manageQueries()
     if (!leaveRecord()) {
         return;
     }
-    const auto run =
-        ShowQueries(m_file.connection(), m_environment, m_queryName, [this] { return pickPerson(); }, this);
+    const auto run = ShowQueries(
+        m_file.connection(), m_environment, m_queryName, [this] { return pickPerson(); }, this);
     if (run) {
         m_queryName = *run;
     }
@@ -494,8 +492,7 @@ void frmAlbum::showPosition()
         lblPosition->setText(QStringLiteral("No pictures"));
         break;
     case State::Browsing:
-        lblPosition->setText(
-            QStringLiteral("Picture %1 of %2").arg(m_browser->row() + 1).arg(m_browser->rowCount()));
+        lblPosition->setText(QStringLiteral("Picture %1 of %2").arg(m_browser->row() + 1).arg(m_browser->rowCount()));
         break;
     case State::Editing:
         lblPosition->setText(QStringLiteral("Editing"));
@@ -528,8 +525,7 @@ void frmAlbum::dropEvent(QDropEvent* event)
     // The program from which the file comes waits until this is over, so whatever asks the user comes after it.
     const auto later = [this](auto action) { QTimer::singleShot(0, this, action); };
     const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() != 1 || !urls.constFirst().isLocalFile() ||
-        !QFileInfo(urls.constFirst().toLocalFile()).isFile()) {
+    if (urls.size() != 1 || !urls.constFirst().isLocalFile() || !QFileInfo(urls.constFirst().toLocalFile()).isFile()) {
         later([this] { m_environment.talk.tell(appmessages::DropOnePicture()); });
         return;
     }

@@ -35,16 +35,16 @@ QString CannotShowPicture(const QString& reason)
 
 Message CannotEdit(const QString& reason)
 {
-    return {QStringLiteral("Edit Picture Record"),
-            QStringLiteral("The record cannot be edited.\n\n") + reason,
+    return {QStringLiteral("Edit Picture Record"), QStringLiteral("The record cannot be edited.\n\n") + reason,
             Icon::Critical};
 }
 
 Message CannotApply(const QString& reason)
 {
-    return {QStringLiteral("Apply"),
-            QStringLiteral("The record could not be written; nothing in the family file has changed.\n\n%1").arg(reason),
-            Icon::Critical};
+    return {
+        QStringLiteral("Apply"),
+        QStringLiteral("The record could not be written; nothing in the family file has changed.\n\n%1").arg(reason),
+        Icon::Critical};
 }
 
 Message CannotEnterName(const QString& reason)
@@ -54,9 +54,10 @@ Message CannotEnterName(const QString& reason)
 
 Message CannotDelete(const QString& reason)
 {
-    return {QStringLiteral("Delete Picture Record"),
-            QStringLiteral("The record could not be deleted; nothing in the family file has changed.\n\n%1").arg(reason),
-            Icon::Critical};
+    return {
+        QStringLiteral("Delete Picture Record"),
+        QStringLiteral("The record could not be deleted; nothing in the family file has changed.\n\n%1").arg(reason),
+        Icon::Critical};
 }
 
 Message Failed(const QString& reason)
@@ -66,8 +67,7 @@ Message Failed(const QString& reason)
 
 Message DropOnePicture()
 {
-    return {QStringLiteral("Open Picture"),
-            QStringLiteral("Please drop one picture file (*.gif; *.jpg) at a time."),
+    return {QStringLiteral("Open Picture"), QStringLiteral("Please drop one picture file (*.gif; *.jpg) at a time."),
             Icon::Information};
 }
 

@@ -68,7 +68,8 @@ NameListPanel::NameListPanel(NameIndex& index, const char* gridName, std::vector
                              HeaderClicks clicks, Talk& talk)
     : m_index(index), m_talk(talk), m_search(index), m_columns(columns),
       m_model(new NameListModel(index, std::move(columns), this)), m_grid(new QTableView), txtName(MakeLine("txtName")),
-      cmdFind(MakeButton("cmdFind", QStringLiteral("&Find..."))), cmdNext(MakeButton("cmdNext", QStringLiteral("Ne&xt"))),
+      cmdFind(MakeButton("cmdFind", QStringLiteral("&Find..."))),
+      cmdNext(MakeButton("cmdNext", QStringLiteral("Ne&xt"))),
       cmdPrevious(MakeButton("cmdPrevious", QStringLiteral("&Previous")))
 {
     m_grid->setObjectName(QLatin1StringView(gridName));
@@ -167,8 +168,7 @@ void NameListPanel::sortBy(int section)
     m_model->sorted();
     QHeaderView& header = *m_grid->horizontalHeader();
     header.setSortIndicatorShown(true);
-    header.setSortIndicator(section, m_index.sort()->direction == SortDirection::Ascending ? Qt::AscendingOrder
-                                                                                           : Qt::DescendingOrder);
+    header.setSortIndicator(section, m_index.sort()->direction);
     showCurrent();
 }
 

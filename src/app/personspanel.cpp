@@ -46,8 +46,8 @@ PersonsPanel::PersonsPanel(PictureView& view, Environment& environment, QWidget*
       cmdOKName(MakeButton("cmdOKName", QStringLiteral("O&K Add/Edit"))),
       cmdCancelName(MakeButton("cmdCancelName", QStringLiteral("&Cancel Add/Edit"))),
       cmdEditName(MakeButton("cmdEditName", QStringLiteral("Edit"), QStringLiteral("Edit the selected name"))),
-      cmdRemove(MakeButton("cmdRemove", QStringLiteral("Remove"),
-                           QStringLiteral("Remove the selected name from the list"))),
+      cmdRemove(
+          MakeButton("cmdRemove", QStringLiteral("Remove"), QStringLiteral("Remove the selected name from the list"))),
       lblPointerHint(MakeLabel("lblPointerHint", albummessages::dragThePointer))
 {
     hfgPersons->setObjectName(QStringLiteral("hfgPersons"));

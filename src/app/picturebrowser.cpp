@@ -189,9 +189,7 @@ void PictureBrowser::showSort()
     const std::optional<ListSort> sort = table() ? table()->sort() : std::nullopt;
     header.setSortIndicatorShown(sort.has_value());
     if (sort) {
-        header.setSortIndicator(static_cast<int>(sort->column), sort->direction == SortDirection::Ascending
-                                                                    ? Qt::AscendingOrder
-                                                                    : Qt::DescendingOrder);
+        header.setSortIndicator(static_cast<int>(sort->column), sort->direction);
     }
 }
 

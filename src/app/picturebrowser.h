@@ -33,7 +33,9 @@ public:
     bool setCurrent(int pictureId);
 
     int row() const;
+
     int rowCount() const { return m_model->rowCount(); }
+
     /// Makes the picture in a row current; beyond the ends, the first or the last one.
     void goToRow(int row);
 

@@ -257,10 +257,9 @@ void PictureView::mouseMoveEvent(QMouseEvent* event)
     }
     const QPointF place = (event->position() - pictureArea().topLeft()) / scale();
     const QRectF whole({}, QSizeF(m_pictureSize));
-    m_pointer = m_tool == PointerTool::Arrow
-                    ? KeptWithin(m_drag->pointer.translated(place - m_drag->from), whole)
-                    : DraggedRectangle(m_drag->pointer, m_drag->mode, place - m_drag->from, whole,
-                                       smallestRectangle / scale());
+    m_pointer = m_tool == PointerTool::Arrow ? KeptWithin(m_drag->pointer.translated(place - m_drag->from), whole)
+                                             : DraggedRectangle(m_drag->pointer, m_drag->mode, place - m_drag->from,
+                                                                whole, smallestRectangle / scale());
     update();
 }
 

@@ -41,8 +41,7 @@ void AddRow(QFormLayout& form, const QString& caption, QWidget* field, QLayout* 
 
 RecordForm::RecordForm(QWidget* parent)
     : QWidget(parent), lblPicId(MakeLabel("lblPicId")), lblPicFilename(MakeLabel("lblPicFilename")),
-      cmdSelectPic(
-          MakeButton("cmdSelectPic", QStringLiteral("&Browse..."), QStringLiteral("Press to select picture"))),
+      cmdSelectPic(MakeButton("cmdSelectPic", QStringLiteral("&Browse..."), QStringLiteral("Press to select picture"))),
       txtTitle(MakeLine("txtTitle", QStringLiteral("Description of the picture"))), txtDescription(new QPlainTextEdit),
       dcbPlace(new QComboBox), txtDateString(MakeLine("txtDateString")),
       cmdSelectDate(
@@ -81,7 +80,8 @@ RecordForm::RecordForm(QWidget* parent)
     show(std::nullopt);
 }
 
-template <typename Change> void RecordForm::pass(Change change)
+template <typename Change>
+void RecordForm::pass(Change change)
 {
     if (m_editing != nullptr && !m_filling) {
         change(*m_editing);
@@ -92,15 +92,13 @@ void RecordForm::connectFields()
 {
     connect(cmdSelectPic, &QPushButton::clicked, this, &RecordForm::choosePicture);
     connect(cmdSelectDate, &QPushButton::clicked, this, &RecordForm::chooseDate);
-    connect(txtTitle, &QLineEdit::textChanged, this, [this](const QString& text) {
-        pass([&text](PictureEditing& editing) { editing.setTitle(text); });
-    });
+    connect(txtTitle, &QLineEdit::textChanged, this,
+            [this](const QString& text) { pass([&text](PictureEditing& editing) { editing.setTitle(text); }); });
     connect(txtDescription, &QPlainTextEdit::textChanged, this, [this] {
         pass([this](PictureEditing& editing) { editing.setDescription(txtDescription->toPlainText()); });
     });
-    connect(dcbPlace, &QComboBox::editTextChanged, this, [this](const QString& text) {
-        pass([&text](PictureEditing& editing) { editing.setPlace(text); });
-    });
+    connect(dcbPlace, &QComboBox::editTextChanged, this,
+            [this](const QString& text) { pass([&text](PictureEditing& editing) { editing.setPlace(text); }); });
     connect(optNamesLeft, &QRadioButton::toggled, this, [this](bool left) {
         pass([left](PictureEditing& editing) { editing.setNames(left ? NamePlacement::Left : NamePlacement::Above); });
     });
@@ -125,8 +123,8 @@ void RecordForm::setEditable(bool editable)
 {
     txtTitle->setReadOnly(!editable);
     txtDescription->setReadOnly(!editable);
-    for (QWidget* control : std::initializer_list<QWidget*>{cmdSelectPic, dcbPlace, cmdSelectDate, optNamesLeft,
-                                                            optNamesAbove}) {
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{cmdSelectPic, dcbPlace, cmdSelectDate, optNamesLeft, optNamesAbove}) {
         control->setEnabled(editable);
     }
 }

@@ -44,7 +44,8 @@ private:
     void setFields(const PictureRecord& record);
     void setEditable(bool editable);
     /// Hands a change of a field to the record, unless the form itself makes it.
-    template <typename Change> void pass(Change change);
+    template <typename Change>
+    void pass(Change change);
 
     QLabel* lblPicId;
     QLabel* lblPicFilename;

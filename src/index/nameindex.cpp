@@ -109,8 +109,8 @@ QString NameIndex::phone(NameRow row) const
 
 void NameIndex::sortBy(NameColumn column)
 {
-    const bool wasAscending = m_sort && m_sort->column == column && m_sort->direction == Qt::AscendingOrder;
-    m_sort = NameSort{column, wasAscending ? Qt::DescendingOrder : Qt::AscendingOrder};
+    m_sort = SortAfterClick(m_sort, column);
+    const bool wasAscending = m_sort->direction == Qt::DescendingOrder;
     if (column == NameColumn::PersonId) {
         std::vector<NameRow> order(size());
         std::iota(order.begin(), order.end(), NameRow{0});

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/pattern.h"
+#include "base/sorting.h"
 #include "index/byterows.h"
 #include "index/texttable.h"
 
@@ -22,10 +23,7 @@ using NameRow = std::uint32_t;
 /// The columns of the person picker.
 enum class NameColumn { PersonId, Name, BirthDate, DeathDate };
 
-struct NameSort {
-    NameColumn column = NameColumn::Name;
-    Qt::SortOrder direction = Qt::AscendingOrder;
-};
+using NameSort = ColumnSort<NameColumn>;
 
 class NameIndex
 {

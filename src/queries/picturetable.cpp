@@ -135,10 +135,11 @@ std::vector<QByteArray> PictureTable::sortKeys(std::size_t column) const
 
 void PictureTable::sortBy(std::size_t column)
 {
-    const bool again = m_sort && m_sort->column == column && m_sort->direction == SortDirection::Ascending;
+    const ListSort sort = SortAfterClick(m_sort, column);
+    const bool again = sort.direction == Qt::DescendingOrder;
     const bool byNumber = m_columns[column].value == ListValue::Number;
     unsort();
-    m_sort = ListSort{column, again ? SortDirection::Descending : SortDirection::Ascending};
+    m_sort = sort;
     if (byNumber) {
         if (again) {
             std::reverse(m_rows.begin(), m_rows.end());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/sorting.h"
 #include "queries/piclistsql.h"
 
 #include <cstdint>
@@ -15,13 +16,8 @@
 namespace stemwright
 {
 
-enum class SortDirection { Ascending, Descending };
-
 /// By which of its columns a list is sorted.
-struct ListSort {
-    std::size_t column = 0;
-    SortDirection direction = SortDirection::Ascending;
-};
+using ListSort = ColumnSort<std::size_t>;
 
 class PictureTable
 {
