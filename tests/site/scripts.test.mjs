@@ -330,7 +330,7 @@ test("the templates hold plain ASCII and no placeholders but their own", () => {
     for (const folder of ["html", ...styles.map((style) => `BgStyles/${style}`)]) {
         for (const name of fs.readdirSync(path.join(share, folder)).filter((file) => /\.(html|js)$/.test(file))) {
             const text = fs.readFileSync(path.join(share, folder, name), "latin1");
-            assert.deepEqual([...new Set([...text.matchAll(/\$([A-Za-z]+)/g)].map((match) => match[1]))].sort(), own[name] ?? [], name);
+            assert.deepEqual([...new Set([...text.matchAll(/\$([A-Za-z][A-Za-z0-9]*)/g)].map((match) => match[1]))].sort(), own[name] ?? [], name);
             assert.doesNotMatch(text, /[^\x09\x0a\x0d\x20-\x7e]/, name);
         }
     }
