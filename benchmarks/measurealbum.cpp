@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "album/picturerecord.h"
 #include "album/thumbnail.h"
 #include "base/error.h"
 #include "index/namesearch.h"
 #include "photofolder.h"
+#include "queries/picturetable.h"
 #include "stopwatch.h"
 #include "store/file/familyfile.h"
 
@@ -45,10 +45,19 @@ class Desk
 public:
     void open(const QString& path)
     {
-        Environment environment{m_talk, m_settings, m_clock, m_application};
-        if (!OpenFamilyFile(m_file, path, environment)) {
+        if (!OpenFamilyFile(m_file, path, m_environment)) {
             throw Error(path);
         }
+    }
+
+    /// The list of pictures of the user's query, which shows at least one.
+    PictureTable list()
+    {
+        std::optional<PictureTable> list = OpenPictureList(connection(), m_environment, {});
+        if (!list || list->rowCount() == 0) {
+            throw Error(QStringLiteral("The family file shows no pictures."));
+        }
+        return std::move(*list);
     }
 
     Connection& connection() { return m_file.connection(); }
@@ -58,6 +67,7 @@ private:
     MemorySettings m_settings;
     SystemClock m_clock;
     ApplicationFolder m_application = ApplicationFolder::ofProgram();
+    Environment m_environment{m_talk, m_settings, m_clock, m_application};
     FamilyFile m_file;
 };
 
@@ -166,9 +176,7 @@ double OpenList(const QString& path)
     Desk desk;
     const Stopwatch watch;
     desk.open(path);
-    if (ListPictures(desk.connection()).empty()) {
-        throw Error(QStringLiteral("The family file holds no pictures."));
-    }
+    const PictureTable list = desk.list();
     return watch.seconds();
 }
 
@@ -177,11 +185,11 @@ double LeafThroughGallery(const QString& path)
 {
     Desk desk;
     desk.open(path);
-    const std::vector<PictureRecord> pictures = ListPictures(desk.connection());
+    const std::vector<int> pictures = desk.list().pictureIds();
     const Stopwatch watch;
     Statement select = desk.connection().prepare(QStringLiteral("SELECT Thumb FROM AlbumTOC WHERE PicId = ?1"));
-    for (const PictureRecord& picture : pictures) {
-        if (!select.bind(1, picture.id).step() || select.bytes(0).isEmpty()) {
+    for (const int picture : pictures) {
+        if (!select.bind(1, picture).step() || select.bytes(0).isEmpty()) {
             throw Error(QStringLiteral("A picture has no thumbnail."));
         }
         select.reset();

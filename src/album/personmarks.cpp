@@ -23,11 +23,11 @@ std::optional<int> NumberOf(const QString& text)
 
 PersonMark MarkOf(const Statement& row)
 {
-    PersonMark mark{row.integer(1), row.text(0), std::nullopt, row.integer64(7)};
-    const auto x = NumberOf(row.text(3));
-    const auto y = NumberOf(row.text(4));
+    PersonMark mark{row.integer(1), row.text(0), std::nullopt, row.integer64(6)};
+    const auto x = NumberOf(row.text(2));
+    const auto y = NumberOf(row.text(3));
     if (x && y) {
-        mark.place = MarkPlace{*x, *y, NumberOf(row.text(5)), NumberOf(row.text(6))};
+        mark.place = MarkPlace{*x, *y, NumberOf(row.text(4)), NumberOf(row.text(5))};
     }
     return mark;
 }
@@ -52,16 +52,27 @@ void RequireName(const QString& name)
 
 } // namespace
 
+PictureMarks::PictureMarks(Connection& connection)
+    : m_select(connection.prepare(QStringLiteral(
+          "SELECT Name, PersId, X, Y, Width, Height, rowid FROM Pic2Person WHERE PicId = ?1 ORDER BY rowid")))
+{
+}
+
+std::vector<PersonMark> PictureMarks::of(int pictureId)
+{
+    std::vector<PersonMark> marks;
+    m_select.bind(1, pictureId);
+    while (m_select.step()) {
+        marks.push_back(MarkOf(m_select));
+    }
+    m_select.reset();
+    return marks;
+}
+
 void PersonMarks::LoadPersonList(Connection& connection, int pictureId)
 {
     *this = PersonMarks();
-    Statement select = connection.prepare(
-        QStringLiteral("SELECT Name, PersId, PicId, X, Y, Width, Height, rowid FROM Pic2Person WHERE PicId = ?1"
-                       " ORDER BY rowid"));
-    select.bind(1, pictureId);
-    while (select.step()) {
-        m_marks.push_back(MarkOf(select));
-    }
+    m_marks = PictureMarks(connection).of(pictureId);
     sort();
 }
 

@@ -11,7 +11,8 @@
 #include <optional>
 #include <vector>
 
-/// The persons marked on one picture, as a pending batch: changes are held here until write() and lost with the object.
+/// The persons marked on pictures: read for pages, or of one picture as a pending batch, whose changes are held until
+/// write() and lost with the object.
 /// Failures: Error, SQLite::Exception. Stands on the connection.
 namespace stemwright
 {
@@ -27,6 +28,18 @@ struct PersonMark {
     std::optional<MarkPlace> place;
     /// The row in the family file; 0 for a mark that it does not hold yet.
     qint64 row = 0;
+};
+
+/// Reads the marks of one picture after another, each picture's in the order in which they were added.
+class PictureMarks
+{
+public:
+    explicit PictureMarks(Connection& connection);
+
+    std::vector<PersonMark> of(int pictureId);
+
+private:
+    Statement m_select;
 };
 
 class PersonMarks

@@ -5,6 +5,7 @@
 #include "web/entrytexts.h"
 #include "web/escape.h"
 #include "web/pagefile.h"
+#include "web/picturelinks.h"
 #include "web/templates.h"
 #include "web/treelinks.h"
 
@@ -130,6 +131,7 @@ private:
             AppendDuplicateLink(page(), m_run, m_tree, entry);
         } else if (entry.person != nowhere) {
             page().append("<A NAME=\"").append(id(entry)).append("\"></A>");
+            AppendPictureLink(page(), m_run, entry.person);
         }
         page().append(PageFile::lineBreak);
     }

@@ -41,6 +41,22 @@ std::string HomeLink(const Setup& setup)
     return link + "\"><IMG SRC=\"graphics/btn_home.gif\" ALT=\"Home\" BORDER=0 ALIGN=LEFT></A>";
 }
 
+std::string ListOfPicturesLink(const SiteRun& run)
+{
+    return run.pictures.all().empty() ? ""
+                                      : "<A HREF=\"ListOfPics.html\"><IMG SRC=\"graphics/btn_pic.gif\" VSPACE=\"0\" "
+                                        "BORDER=\"0\" ALT=\"List of Pictures\"></A>";
+}
+
+/// The template ends the link of the sentence with pictures.
+std::string StartYourTour(const SiteRun& run, const TreesLink& trees)
+{
+    const std::string start = "Start your tour at the <A HREF=\"NameIndex.html\">index</A> of names";
+    return run.pictures.all().empty()
+               ? start + " or " + trees.phrase + '.'
+               : start + ", " + trees.phrase + " or at the <A HREF=\"ListOfPics.html\">list of pictures.";
+}
+
 std::string AuthorHtml(const QString& html)
 {
     std::string text;
@@ -92,13 +108,14 @@ void WriteCommonPages(const SiteRun& run, Connection& connection)
           {"$Version", std::to_string(versionMajor) + '.' + std::to_string(versionMinor)},
           {"$Year", std::to_string(run.settings.currentYear)}});
     Fill(run, style + QStringLiteral("topright.html"), "topright.html",
-         {{"$CommonAncestor", trees.phrase}, {"$ListOfPicsLink", {}}, {"$Title4TreesIcon", trees.title}});
+         {{"$CommonAncestor", trees.phrase},
+          {"$ListOfPicsLink", ListOfPicturesLink(run)},
+          {"$Title4TreesIcon", trees.title}});
     Fill(run, style + QStringLiteral("main.html"), "main.html",
          {{"$TitleStory", AuthorHtml(run.setup.titleStory)},
           {"$SiteTitle", AuthorHtml(run.setup.siteTitle)},
           {"$EmblemFilename", WriteEmblem(run, connection)},
-          {"$StartYourTour",
-           "Start your tour at the <A HREF=\"NameIndex.html\">index</A> of names or " + trees.phrase + '.'}});
+          {"$StartYourTour", StartYourTour(run, trees)}});
 }
 
 } // namespace stemwright

@@ -39,6 +39,11 @@ QString PreparingTheOutputFolder()
     return QStringLiteral("Preparing the output folder...");
 }
 
+QString LoadingPictures()
+{
+    return QStringLiteral("Loading the pictures into memory...");
+}
+
 QString CopyingStandardFiles()
 {
     return QStringLiteral("Copying standard files to output folder...");
@@ -62,6 +67,11 @@ QString BuildingIndex()
 QString BuildingIndexAndPersonalPages()
 {
     return QStringLiteral("Building index of names and personal pages:");
+}
+
+QString ProcessingPicture()
+{
+    return QStringLiteral("Processing picture:");
 }
 
 QString WritingCommonPages()
@@ -191,6 +201,26 @@ QString NoSuchTreeHead(const QString& headName, int id)
 QString NothingToBuild()
 {
     return QStringLiteral("None of the setup's trees can be built.");
+}
+
+Message TextsLeftOut(const std::vector<int>& pictures)
+{
+    constexpr std::size_t mostNumbers = 10;
+    QStringList numbers;
+    for (const int picture : pictures) {
+        if (static_cast<std::size_t>(numbers.size()) < mostNumbers) {
+            numbers << QString::number(picture);
+        }
+    }
+    if (pictures.size() > mostNumbers) {
+        numbers << QStringLiteral("...");
+    }
+    return {QStringLiteral("Hidden persons in picture texts"),
+            QStringLiteral("Texts of %1 of the published pictures seem to name a person who is hidden on this site."
+                           "\nThese titles, places or descriptions were left out. Picture ID: %2")
+                .arg(pictures.size())
+                .arg(numbers.join(QStringLiteral(", "))),
+            Icon::Warning};
 }
 
 Message ProposeTreeHead(const QString& name, int id, std::size_t descendants)

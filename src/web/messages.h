@@ -13,11 +13,13 @@ QString BuildingWebPages();
 QString SavingTheSetup();
 QString Initializing();
 QString PreparingTheOutputFolder();
+QString LoadingPictures();
 QString CopyingStandardFiles();
 QString LoadingIndividuals();
 QString EntryOf(const QString& display, const QString& headName);
 QString BuildingIndex();
 QString BuildingIndexAndPersonalPages();
+QString ProcessingPicture();
 QString WritingCommonPages();
 
 // The output folder.
@@ -41,6 +43,9 @@ Message MoreMissingFamilyRecords(std::size_t count);
 Message DisplayNotAvailable(const QString& display, const QString& headName);
 QString NoSuchTreeHead(const QString& headName, int id);
 QString NothingToBuild();
+
+// The pictures, by their numbers.
+Message TextsLeftOut(const std::vector<int>& pictures);
 
 // The choice of a head.
 Message ProposeTreeHead(const QString& name, int id, std::size_t descendants);

@@ -3,10 +3,10 @@
 #include "web/nameindex.h"
 
 #include "base/text.h"
-#include "web/contactlinks.h"
 #include "web/escape.h"
 #include "web/pagefile.h"
 #include "web/personalpage.h"
+#include "web/picturelinks.h"
 #include "web/templates.h"
 #include "web/treelinks.h"
 
@@ -59,7 +59,7 @@ public:
         AppendText(page(), TextAfterName(m_run, person));
         page().append("<BR>");
         AppendTreeLinks(page(), m_run, person);
-        AppendContactLinks(page(), m_run, person);
+        AppendInfoLinks(page(), m_run, person);
         page().append(PageFile::lineBreak);
         m_index.checkpoint();
         if (m_run.settings.personalPages) {

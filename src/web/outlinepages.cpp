@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "web/outlinepages.h"
 
-#include "web/contactlinks.h"
 #include "web/entrytexts.h"
 #include "web/escape.h"
 #include "web/pagefile.h"
+#include "web/picturelinks.h"
 #include "web/treelinks.h"
 
 #include <deque>
@@ -207,7 +207,7 @@ private:
         endLine();
     }
 
-    /// Name, items, anchor and contact links of a main entry.
+    /// Name, items, anchor and icon links of a main entry.
     void writePerson(const TreeEntry& entry)
     {
         const bool linked = m_run.settings.personalPages && entry.person != nowhere;
@@ -223,7 +223,7 @@ private:
         AppendEntryItems(page(), m_run, m_tree.walk, entry);
         if (entry.person != nowhere) {
             page().append("<A NAME=\"").append(std::to_string(idOf(entry))).append("\"></A>");
-            AppendContactLinks(page(), m_run, entry.person);
+            AppendInfoLinks(page(), m_run, entry.person);
         }
     }
 

@@ -6,6 +6,7 @@
 #include "web/celltexts.h"
 #include "web/contactlinks.h"
 #include "web/escape.h"
+#include "web/picturelinks.h"
 #include "web/templates.h"
 #include "web/treelinks.h"
 
@@ -50,7 +51,7 @@ private:
         page().append(m_run.names.displayHtml(m_person));
         page().append("&nbsp;");
         AppendTreeLinks(page(), m_run, m_person);
-        AppendContactLinks(page(), m_run, m_person);
+        AppendInfoLinks(page(), m_run, m_person);
         line("</H3>");
     }
 
@@ -105,7 +106,7 @@ private:
         page().append("\">").append(m_run.names.displayHtml(person));
         page().append("</A>&nbsp;");
         AppendTreeLinks(page(), m_run, person);
-        AppendContactLinks(page(), m_run, person);
+        AppendInfoLinks(page(), m_run, person);
     }
 
     void beginTable(std::string_view first, std::string_view second, std::string_view third)

@@ -109,11 +109,16 @@ std::string Collapsed(std::string_view utf8)
     return text;
 }
 
-std::string TidyHeadName(const TreeDefinition& tree)
+std::string TidyName(std::string_view utf8)
 {
     constexpr std::string_view afterSurname = ", ";
-    const std::string name = Collapsed(tree.headName.toStdString());
+    const std::string name = Collapsed(utf8);
     return name.starts_with(afterSurname) ? name.substr(afterSurname.size()) : name;
+}
+
+std::string TidyHeadName(const TreeDefinition& tree)
+{
+    return TidyName(tree.headName.toStdString());
 }
 
 } // namespace stemwright

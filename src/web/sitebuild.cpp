@@ -3,6 +3,7 @@
 #include "web/sitebuild.h"
 
 #include "base/error.h"
+#include "web/albumpages.h"
 #include "web/collapsitree.h"
 #include "web/commonpages.h"
 #include "web/messages.h"
@@ -59,10 +60,12 @@ private:
         return {{SavingTheSetup(), &SiteBuild::loadSetup},
                 {Initializing(), &SiteBuild::loadTree},
                 {PreparingTheOutputFolder(), &SiteBuild::prepareFolder},
+                {LoadingPictures(), &SiteBuild::loadPictures},
                 {CopyingStandardFiles(), &SiteBuild::copyStandardFiles},
                 {LoadingIndividuals(), &SiteBuild::loadIndividuals},
                 {LoadingIndividuals(), &SiteBuild::buildTrees},
                 {BuildingIndex(), &SiteBuild::buildIndex},
+                {ProcessingPicture(), &SiteBuild::buildAlbum},
                 {WritingCommonPages(), &SiteBuild::writeCommonPages}};
     }
 
@@ -111,6 +114,8 @@ private:
         m_folder = QDir(m_folder).absolutePath();
     }
 
+    void loadPictures() { m_album = AlbumPictures::load(m_connection, m_tree); }
+
     void copyStandardFiles() { CopyStandardFiles(m_setup->pageStyle, m_environment.application, m_folder); }
 
     void loadIndividuals()
@@ -120,7 +125,7 @@ private:
         m_privacy.emplace(m_tree, *m_texts, settings.protectedPersons, settings.maxPrivacyAge, settings.currentYear);
         m_names.emplace(*m_texts, m_tree.individuals());
         m_run.emplace(SiteRun{
-            *m_setup, settings, m_tree, *m_texts, *m_privacy, *m_names, m_environment.application, m_folder, {}});
+            *m_setup, settings, m_tree, *m_texts, *m_privacy, *m_names, m_environment.application, m_folder, {}, {}});
     }
 
     /// All walks come before the first page, so that a build which the user stops at a question has written none.
@@ -129,6 +134,7 @@ private:
         for (const TreeDefinition& definition : m_setup->trees) {
             addTree(definition);
         }
+        m_run->pictures = PublishedPictures(std::move(m_album), *m_run);
         for (const PublishedTree& tree : m_run->trees) {
             const bool isOutline = tree.prefix == outlinePrefix;
             const QString display = isOutline ? QStringLiteral("Outline") : QStringLiteral("CollapsiTree");
@@ -186,6 +192,15 @@ private:
         transaction.commit();
     }
 
+    void buildAlbum()
+    {
+        StepProgress progress(*m_progress, webmessages::ProcessingPicture(), m_run->pictures.all().size());
+        const std::vector<int> lostTexts = WriteAlbumPages(*m_run, m_connection, progress);
+        if (!lostTexts.empty()) {
+            m_environment.talk.tell(webmessages::TextsLeftOut(lostTexts));
+        }
+    }
+
     void writeCommonPages()
     {
         WriteTreeList(*m_run);
@@ -206,6 +221,7 @@ private:
     std::optional<Setup> m_setup;
     QString m_folder;
     FamilyTree m_tree;
+    AlbumPictures m_album;
     std::optional<SiteTexts> m_texts;
     std::optional<Privacy> m_privacy;
     std::optional<NameParts> m_names;

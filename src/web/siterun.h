@@ -7,6 +7,7 @@
 #include "web/pageassignment.h"
 #include "web/personnames.h"
 #include "web/privacy.h"
+#include "web/publishedpictures.h"
 #include "web/setup.h"
 #include "web/sitetexts.h"
 
@@ -52,6 +53,8 @@ struct SiteRun {
     /// The output folder's full path.
     QString folder;
     std::vector<PublishedTree> trees;
+    /// Known once the trees are.
+    PublishedPictures pictures;
 
     QString file(std::string_view name) const
     {

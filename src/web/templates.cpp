@@ -63,4 +63,27 @@ std::string FillTemplate(std::string_view content, const std::vector<Replacement
     return page;
 }
 
+PreparedTemplate::PreparedTemplate(std::string_view content, const std::vector<std::string_view>& placeholders)
+{
+    // Where a value goes is marked by a control character, which templates do not contain, and the value's number.
+    constexpr char mark = '\x01';
+    std::vector<Replacement> marks;
+    for (const std::string_view placeholder : placeholders) {
+        marks.push_back({placeholder, {mark, static_cast<char>(marks.size())}});
+    }
+    m_end = FillTemplate(content, marks);
+    for (std::size_t found = m_end.find(mark); found != std::string::npos; found = m_end.find(mark)) {
+        m_pieces.push_back({m_end.substr(0, found), static_cast<std::size_t>(m_end[found + 1])});
+        m_end.erase(0, found + 2);
+    }
+}
+
+void PreparedTemplate::append(std::string& page, const std::vector<std::string_view>& values) const
+{
+    for (const Piece& piece : m_pieces) {
+        page.append(piece.text).append(values[piece.value]);
+    }
+    page.append(m_end);
+}
+
 } // namespace stemwright

@@ -26,4 +26,25 @@ std::string ReadTemplate(const QString& path);
 /// without regard to case.
 std::string FillTemplate(std::string_view content, const std::vector<Replacement>& replacements);
 
+/// A template that many pages are made from: gone through once, then filled by copying. Its lines end as FillTemplate()
+/// ends them; a placeholder within a value stays as it is.
+class PreparedTemplate
+{
+public:
+    PreparedTemplate(std::string_view content, const std::vector<std::string_view>& placeholders);
+
+    /// Appends the template, each placeholder replaced by the value at its place among the placeholders.
+    void append(std::string& page, const std::vector<std::string_view>& values) const;
+
+private:
+    /// A piece of text, and the number of the value that follows it.
+    struct Piece {
+        std::string text;
+        std::size_t value;
+    };
+
+    std::vector<Piece> m_pieces;
+    std::string m_end;
+};
+
 } // namespace stemwright

@@ -4,8 +4,8 @@
 
 #include "store/engine/schema.h"
 #include "web/ancestorchain.h"
-#include "web/contactlinks.h"
 #include "web/nameindex.h"
+#include "web/picturelinks.h"
 
 namespace stemwright
 {
@@ -48,7 +48,7 @@ public:
         const std::string indexName = m_run.names.indexName(entry.person);
         const std::string afterName = TextAfterName(m_run, entry.person);
         std::string links;
-        AppendContactLinks(links, m_run, entry.person);
+        AppendInfoLinks(links, m_run, entry.person);
         const std::string chain = AncestorChainText(tree.walk, m_run.tree, number, maxTextLength);
         m_insert.bind(1, m_run.tree.individualId(entry.person));
         bindOrNull(2, ancestor);

@@ -10,12 +10,13 @@ import path from "node:path";
 import { fileURLToPath } from "node:url";
 
 const program = process.env.STEMWRIGHT_CLI ?? fileURLToPath(new URL("../../build/release/bin/stemwright-cli", import.meta.url));
-const data = fileURLToPath(new URL("../data/site/", import.meta.url));
+export const data = fileURLToPath(new URL("../data/site/", import.meta.url));
 
 // Imports `gedcom`, a file of tests/data/site or a whole GEDCOM text, into a new family file, changes its setup Default by `settings` (column: value), gives it
-// `trees` ({head, display}) and further `items` (a name, or a name and options), and publishes it. Returns the folder of the site, which stands in a folder of
+// `trees` ({head, display}), further `items` (a name, or a name and options) and an `album` (the words of command lines, FILE standing for the family file), and
+// publishes it. Returns the folder of the site, which stands in a folder of
 // its own together with the family file.
-export function publish({ gedcom, settings = {}, trees, items = ["Birth", "Marriage", "Death"] }) {
+export function publish({ gedcom, settings = {}, trees, items = ["Birth", "Marriage", "Death"], album = [] }) {
     const folder = fs.mkdtempSync(path.join(os.tmpdir(), "stemwright-published-"));
     const file = path.join(folder, "family.kvf");
     const site = path.join(folder, "site");
@@ -32,6 +33,9 @@ export function publish({ gedcom, settings = {}, trees, items = ["Birth", "Marri
     }
     for (const item of items) {
         run("setup", "items", file, "Default", "add", ...[item].flat(), "--in-tree");
+    }
+    for (const words of album) {
+        run(...words.map((word) => (word === "FILE" ? file : word)));
     }
     run("publish", file, "--output", site);
     return site;

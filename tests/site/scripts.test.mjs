@@ -324,11 +324,13 @@ test("pages print black on white", async (t) => {
 
 test("the templates hold plain ASCII and no placeholders but their own", () => {
     const own = { "ctreetop.html": ["TreeHeadName", "TreeIconFile"], "bottom.html": ["HomeLink", "Version", "Year"], "topright.html": ["CommonAncestor", "ListOfPicsLink", "Title4TreesIcon"],
-        "main.html": ["EmblemFilename", "SiteTitle", "StartYourTour", "TitleStory"] };
+        "main.html": ["EmblemFilename", "SiteTitle", "StartYourTour", "TitleStory"],
+        "piclist.html": ["IndiId", "Name"], "thumbgalltop.html": ["ListPage", "PageOfPages", "PageOwner"], "picpagetop_rec.html": ["Title"], "picpagetop_arr.html": ["Title"] };
+    own["picpagebot_nl.html"] = own["picpagebot_na.html"] = ["ModificationDate", "PicDescr", "PicHeight", "PicId", "PicWidth", "PictureDate", "PictureFilename", "Place", "Title"];
     for (const folder of ["html", ...styles.map((style) => `BgStyles/${style}`)]) {
         for (const name of fs.readdirSync(path.join(share, folder)).filter((file) => /\.(html|js)$/.test(file))) {
             const text = fs.readFileSync(path.join(share, folder, name), "latin1");
-            assert.deepEqual([...new Set([...text.matchAll(/\$([A-Za-z]\w*)/g)].map((match) => match[1]))].sort(), own[name] ?? [], name);
+            assert.deepEqual([...new Set([...text.matchAll(/\$([A-Za-z][A-Za-z0-9]*)/g)].map((match) => match[1]))].sort(), own[name] ?? [], name);
             assert.doesNotMatch(text, /[^\x09\x0a\x0d\x20-\x7e]/, name);
         }
     }

@@ -219,11 +219,19 @@ std::optional<int> Statement::optionalInteger(int column) const
 
 QByteArray Statement::bytes(int column) const
 {
+    QByteArray copy = rawBytes(column);
+    copy.detach();
+    return copy;
+}
+
+QByteArray Statement::rawBytes(int column) const
+{
     if (isNull(column)) {
         return {};
     }
     const auto* data = static_cast<const char*>(sqlite3_column_blob(m_statement.get(), column));
-    return data == nullptr ? QByteArray("") : QByteArray(data, sqlite3_column_bytes(m_statement.get(), column));
+    return data == nullptr ? QByteArray("")
+                           : QByteArray::fromRawData(data, sqlite3_column_bytes(m_statement.get(), column));
 }
 
 std::string_view Statement::utf8(int column) const

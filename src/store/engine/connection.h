@@ -57,6 +57,8 @@ public:
     qint64 integer64(int column) const;
     std::optional<int> optionalInteger(int column) const;
     QByteArray bytes(int column) const;
+    /// The same without copying, valid until the next step.
+    QByteArray rawBytes(int column) const;
     /// The column's text as UTF-8, valid until the next step. Null gives an empty view.
     std::string_view utf8(int column) const;
 
