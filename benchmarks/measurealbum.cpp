@@ -30,6 +30,8 @@ public:
 
     void tell(const Message& message) override { throw Error(message.text); }
 
+    bool tellWithCheckBox(const Message& message, const QString& /*checkBox*/) override { throw Error(message.text); }
+
     std::optional<QString> input(const InputRequest& request) override { throw Error(request.prompt); }
 
     std::optional<QString> chooseFile(const FileRequest& request) override { throw Error(request.title); }
