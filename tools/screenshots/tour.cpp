@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "tour.h"
+
+#include "app/frmabout.h"
+#include "app/progresswindow.h"
+
+#include <QtGui/QAction>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QTableView>
+
+namespace stemwright::screenshots
+{
+
+namespace
+{
+
+/// Where the pictures say that the files are: the folders of the machine that takes them are nobody's business.
+QString ShownPath(const char* file)
+{
+    return QStringLiteral("/home/molly/Documents/") + QLatin1StringView(file);
+}
+
+/// The row of a list whose first cell has this text; the first when none has.
+int RowOf(const QAbstractItemModel& model, const QString& text)
+{
+    for (int row = 0; row < model.rowCount(); ++row) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            if (model.index(row, column).data().toString() == text) {
+                return row;
+            }
+        }
+    }
+    return 0;
+}
+
+} // namespace
+
+Tour::Tour(frmAlbum& window, Environment& environment, Camera& camera, QString tree)
+    : m_window(window), m_environment(environment), m_camera(camera), m_tree(std::move(tree))
+{
+}
+
+template <typename Control>
+Control& Tour::control(QWidget& window, const char* name)
+{
+    auto* found = window.findChild<Control*>(QLatin1StringView(name));
+    if (found == nullptr) {
+        qFatal("no control %s in %s", name, qUtf8Printable(window.objectName()));
+    }
+    return *found;
+}
+
+void Tour::trigger(const char* action)
+{
+    control<QAction>(m_window, action).trigger();
+}
+
+void Tour::press(QWidget& window, const char* button)
+{
+    control<QAbstractButton>(window, button).click();
+}
+
+void Tour::start()
+{
+    auto* splash = new frmSplash(m_environment.application);
+    splash->show();
+    m_camera.take(*splash, QStringLiteral("frmsplash"));
+    splash->close();
+    m_camera.takeModal(QStringLiteral("frmWelcome"), [this] { m_window.start({}); });
+    m_camera.take(m_window, QStringLiteral("frmalbum-nofile"));
+}
+
+void Tour::album(const QString& familyFile)
+{
+    m_window.start(familyFile);
+    lists();
+    record();
+    queries();
+    people();
+    files();
+    menus();
+    import();
+}
+
+void Tour::lists()
+{
+    auto& grid = control<QTableView>(m_window, "dtgTOC");
+    grid.selectRow(RowOf(*grid.model(), QStringLiteral("Wedding of Tobias and Rosamund")));
+    control<QListWidget>(m_window, "hfgPersons").setCurrentRow(0);
+    m_camera.take(m_window, QStringLiteral("frmalbum"));
+    trigger("mnuThumbView");
+    m_camera.take(m_window, QStringLiteral("frmalbum-gallery"));
+    trigger("mnuThumbView");
+    m_camera.takeModal(QStringLiteral("inputBox"), [this] { trigger("mnuFind"); });
+    m_camera.takeModal(QStringLiteral("messageBox"), [this] { trigger("mnuDelPicRec"); });
+}
+
+void Tour::record()
+{
+    trigger("mnuEditPicRec");
+    m_camera.inside(
+        QStringLiteral("frmDate"), [this] { press(m_window, "cmdSelectDate"); },
+        [this](QWidget& window) { m_camera.take(window, QStringLiteral("frmdate")); });
+    m_camera.take(m_window, QStringLiteral("frmalbum-editing"));
+    press(m_window, "cmdEditName");
+    m_camera.take(m_window, QStringLiteral("frmalbum-marking"));
+    press(m_window, "cmdCancelName");
+    press(m_window, "cmdCancel");
+}
+
+void Tour::queries()
+{
+    m_camera.inside(
+        QStringLiteral("frmQueries"), [this] { trigger("mnuQueries"); },
+        [this](QWidget& window) {
+            auto& list = control<QListWidget>(window, "lstQueries");
+            list.setCurrentRow(RowOf(*list.model(), QStringLiteral("Descendants of Captain Purrington")));
+            m_camera.take(window, QStringLiteral("frmqueries"));
+            m_camera.takeModal(QStringLiteral("frmNewQuery"), [this, &window] { press(window, "cmdNew"); });
+            m_camera.takeModal(QStringLiteral("frmEditQuery"), [this, &window] { press(window, "cmdEdit"); });
+        });
+}
+
+void Tour::people()
+{
+    const auto type = [this](QWidget& window) { control<QLineEdit>(window, "txtName").setText(QStringLiteral("Wh")); };
+    trigger("mnuAddPicRec");
+    m_camera.take(m_window, QStringLiteral("frmalbum-newrecord"));
+    m_camera.inside(
+        QStringLiteral("frmPeople"), [this] { press(m_window, "cmdShowIndex"); },
+        [this, type](QWidget& window) {
+            type(window);
+            m_camera.take(window, QStringLiteral("frmpeople"));
+        });
+    press(m_window, "cmdCancel");
+    m_camera.inside(
+        QStringLiteral("frmIndex4Addr"), [this] { trigger("mnuContEdit"); },
+        [this, type](QWidget& window) {
+            control<QLineEdit>(window, "txtName").setText(QStringLiteral("Whiskerton, Nell"));
+            m_camera.takeModal(QStringLiteral("frmContactInfo"), [this, &window] { press(window, "cmdContactInfo"); });
+            type(window);
+            m_camera.take(window, QStringLiteral("frmindex4addr"));
+        });
+}
+
+void Tour::files()
+{
+    m_camera.inside(
+        QStringLiteral("frmExportTableAsText"), [this] { trigger("mnuExportTabletoText"); },
+        [this](QWidget& window) {
+            control<QLineEdit>(window, "txtOutputFilename").setText(ShownPath("Initial.txt"));
+            m_camera.take(window, QStringLiteral("frmexporttableastext"));
+        });
+    m_camera.inside(
+        QStringLiteral("frmProperties"), [this] { trigger("mnuProperties"); },
+        [this](QWidget& window) {
+            control<QLabel>(window, "lblPath").setText(ShownPath("Whiskerton.kvf"));
+            control<QLabel>(window, "lblGedcom").setText(ShownPath("felinity.ged"));
+            m_camera.take(window, QStringLiteral("frmproperties"));
+        });
+    m_camera.takeModal(QStringLiteral("frmAbout"), [this] { trigger("mnuAbout"); });
+}
+
+/// The import is done to its end: file, questions, report.
+void Tour::import()
+{
+    {
+        ProgressWindow progress(QStringLiteral("Importing GEDCOM file"), QStringLiteral("Reading individuals..."),
+                                &m_window);
+        progress.setPercent(60);
+        m_camera.take(*QApplication::activeModalWidget(), QStringLiteral("frmprogress"));
+    }
+    const auto answer = [this](QWidget& box) {
+        m_camera.take(box, QStringLiteral("frmimportreport-backup"));
+        static_cast<QDialog&>(box).accept();
+    };
+    const auto show = [this](QWidget& report) { m_camera.take(report, QStringLiteral("frmimportreport")); };
+    m_camera.inside(
+        QStringLiteral("fileDialog"), [this] { trigger("mnuImportGedcom"); },
+        [this, answer, show](QWidget& dialog) {
+            control<QLineEdit>(dialog, "fileNameEdit").setText(m_tree);
+            m_camera.inside(
+                QStringLiteral("messageBox"), [&dialog] { static_cast<QDialog&>(dialog).accept(); },
+                [this, answer, show](QWidget& box) {
+                    m_camera.inside(
+                        QStringLiteral("frmImportReport"), [answer, &box] { answer(box); }, show);
+                });
+        });
+}
+
+void Tour::menus()
+{
+    for (QAction* entry : m_window.menuBar()->actions()) {
+        QString name = entry->text().toLower();
+        name.remove(u'&');
+        entry->menu()->popup(m_window.pos());
+        m_camera.take(*entry->menu(), QStringLiteral("menu-") + name);
+        entry->menu()->close();
+    }
+}
+
+} // namespace stemwright::screenshots
