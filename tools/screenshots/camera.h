@@ -24,7 +24,8 @@ public:
     /// Writes NAME.png with what the window shows, its frame left out.
     void take(QWidget& window, const QString& name);
 
-    /// Lets `open` open the modal window of this object name, lets `visit` look at it, and closes it if `visit` has not.
+    /// Lets `open` open the modal window of this object name, lets `visit` look at it, and closes it if `visit` has
+    /// not.
     void inside(const QString& objectName, const std::function<void()>& open, const Visit& visit);
 
     /// Opens a modal window and takes a picture, named like the window.

@@ -100,7 +100,11 @@ int main(int argc, char** argv)
 {
     using namespace stemwright::screenshots;
     try {
-        const Wishes wishes = WishesOf(QStringList(argv, argv + argc));
+        QStringList arguments;
+        for (int number = 0; number < argc; ++number) {
+            arguments << QString::fromLocal8Bit(argv[number]);
+        }
+        const Wishes wishes = WishesOf(arguments);
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
             qputenv("QT_QPA_PLATFORM", "offscreen");
         }

@@ -7,14 +7,15 @@
 
 #include <QtGui/QAction>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QComboBox>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
-#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
 
 namespace stemwright::screenshots
@@ -179,21 +180,26 @@ void Tour::import()
         progress.setPercent(60);
         m_camera.take(*QApplication::activeModalWidget(), QStringLiteral("frmprogress"));
     }
-    const auto answer = [this](QWidget& box) {
-        m_camera.take(box, QStringLiteral("frmimportreport-backup"));
-        static_cast<QDialog&>(box).accept();
+    const QString box = QStringLiteral("messageBox");
+    const auto accept = [](QWidget& window) { static_cast<QDialog&>(window).accept(); };
+    const auto report = [this](QWidget& window) { m_camera.take(window, QStringLiteral("frmimportreport")); };
+    // The sample was made of a file of this name in another folder.
+    const auto conflict = [this, report](QWidget& window) {
+        m_camera.take(window, QStringLiteral("importing-conflict"));
+        const auto yes = [&window] { static_cast<QMessageBox&>(window).button(QMessageBox::Yes)->click(); };
+        m_camera.inside(QStringLiteral("frmImportReport"), yes, report);
     };
-    const auto show = [this](QWidget& report) { m_camera.take(report, QStringLiteral("frmimportreport")); };
+    const auto backup = [this, box, accept, conflict](QWidget& window) {
+        m_camera.take(window, QStringLiteral("importing-backup"));
+        m_camera.inside(
+            box, [accept, &window] { accept(window); }, conflict);
+    };
     m_camera.inside(
         QStringLiteral("fileDialog"), [this] { trigger("mnuImportGedcom"); },
-        [this, answer, show](QWidget& dialog) {
-            control<QLineEdit>(dialog, "fileNameEdit").setText(m_tree);
+        [this, box, accept, backup](QWidget& window) {
+            control<QLineEdit>(window, "fileNameEdit").setText(m_tree);
             m_camera.inside(
-                QStringLiteral("messageBox"), [&dialog] { static_cast<QDialog&>(dialog).accept(); },
-                [this, answer, show](QWidget& box) {
-                    m_camera.inside(
-                        QStringLiteral("frmImportReport"), [answer, &box] { answer(box); }, show);
-                });
+                box, [accept, &window] { accept(window); }, backup);
         });
 }
 
