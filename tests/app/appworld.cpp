@@ -19,15 +19,16 @@ constexpr double margin = 6;
 
 QString AppTest::familyFile(int pictures)
 {
+    quit();
     Connection& connection = world.newFamilyFile().connection();
     FamilyBuilder builder(connection);
     builder.person(1, "Adam", "Root").person(2, "Eve", "Bough").person(3, "Abel", "Root").person(4, "Ida", "Root");
     builder.family(1, 1, 2, {3}).family(2, 3, 0, {4});
     for (int number = 1; number <= pictures; ++number) {
-        builder.run(QString("INSERT INTO AlbumTOC (PicId, Title, Place, PictureDate, EncodPicDate, Rectangle, NamesLeft)"
-                            " VALUES (%1, 'Picture %1', 'Haven', ' %2', '%200001', -1, -1)")
-                        .arg(number)
-                        .arg(2000 - number));
+        builder.run(
+            QString("INSERT INTO AlbumTOC (PicId, Title, Place, PictureDate, EncodPicDate, Rectangle, NamesLeft)"
+                    " VALUES (%1, 'Picture %1', 'Haven', ' ' || (2000 - %1), (2000 - %1) || '00001', -1, -1)")
+                .arg(number));
     }
     const QString path = world.file.path();
     world.file.close();
@@ -57,6 +58,13 @@ QStringList AppTest::stored(const QString& sql)
     return Column(connection, sql);
 }
 
+void AppTest::key(QKeyCombination key)
+{
+    m_window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
+    QTest::keyClick(m_window->focusWidget(), key.key(), key.keyboardModifiers());
+}
+
 QString AppTest::position()
 {
     return Find<QLabel>(*m_window, "lblPosition").text();
@@ -64,7 +72,8 @@ QString AppTest::position()
 
 double ScaleIn(const QWidget& view, QSize picture)
 {
-    return std::min({(view.width() - 2 * margin) / picture.width(), (view.height() - 2 * margin) / picture.height(), 2.});
+    return std::min(
+        {(view.width() - 2 * margin) / picture.width(), (view.height() - 2 * margin) / picture.height(), 2.});
 }
 
 QPointF InView(const QWidget& view, QSize picture, QPointF place)

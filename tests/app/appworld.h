@@ -20,6 +20,7 @@ protected:
 
     /// Opens the main window as the program does: on a file, or on the last one. An open one is closed before.
     QWidget& start(const QString& file = {});
+
     void quit() { m_window.reset(); }
 
     /// Writes a picture and returns its path.
@@ -27,6 +28,9 @@ protected:
 
     /// Closes the main window and reads from the family file.
     QStringList stored(const QString& sql);
+
+    /// Presses a key wherever the main window has its focus.
+    void key(QKeyCombination key);
 
     /// What the status bar says of the place in the list.
     QString position();

@@ -170,6 +170,7 @@ void Hand::look()
 void Hand::deal(QWidget& window)
 {
     const QPointer<QWidget> alive(&window);
+    const QPointer<QWidget> parent(window.parentWidget());
     const QString name = NameOf(window) + u' ' + TextOf(window);
     m_busy.push_back(&window);
     if (m_expected.empty() || !Fits(m_expected.front().window, window)) {
@@ -179,6 +180,7 @@ void Hand::deal(QWidget& window)
         const Action act = std::move(m_expected.front().act);
         m_expected.pop_front();
         try {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&window)) << name.toStdString();
             act(window);
         } catch (const std::exception& exception) {
             ADD_FAILURE() << name.toStdString() << ": " << exception.what();
@@ -191,6 +193,10 @@ void Hand::deal(QWidget& window)
     if (auto* dialog = qobject_cast<QDialog*>(alive.data());
         dialog != nullptr && dialog->isVisible() && dialog->objectName() != progressWindow) {
         dialog->done(QDialog::Rejected);
+    }
+    if (parent && (!alive || alive->isHidden())) {
+        // Without a window manager nobody else does.
+        parent->activateWindow();
     }
 }
 

@@ -13,7 +13,8 @@ namespace stemwright::test
 {
 
 /// The control of a window with this object name; ends the test when there is none.
-template <typename Control> Control& Find(QObject& window, const char* name)
+template <typename Control>
+Control& Find(QObject& window, const char* name)
 {
     auto* control = window.findChild<Control*>(name);
     if (control == nullptr) {

@@ -17,7 +17,7 @@ class LeavingTest : public AppTest
 protected:
     void change(const char* title)
     {
-        QTest::keyClick(&window(), Qt::Key_F2);
+        key(Qt::Key_F2);
         Type(window(), "txtTitle", title);
     }
 

@@ -52,10 +52,11 @@ TEST_P(MarksTest, RectanglesFollowTheHandToThePixel)
         const char* name;
         QPointF grip;
     };
+
     // The rectangle begins in the middle, at 176,118 with 48 x 64 pixels.
-    const Case cases[] = {{"bottom", {200, 182}},   {"bottom left", {176, 182}}, {"bottom right", {224, 182}},
-                          {"left", {176, 150}},     {"move", {200, 150}},        {"right", {224, 150}},
-                          {"top", {200, 118}},      {"top left", {176, 118}},    {"top right", {224, 118}}};
+    const Case cases[] = {{"bottom", {200, 182}}, {"bottom left", {176, 182}}, {"bottom right", {224, 182}},
+                          {"left", {176, 150}},   {"move", {200, 150}},        {"right", {224, 150}},
+                          {"top", {200, 118}},    {"top left", {176, 118}},    {"top right", {224, 118}}};
     Press(editor, "optRectangle");
     for (const auto& [name, grip] : cases) {
         Press(editor, "cmdShowPointer");
@@ -65,10 +66,10 @@ TEST_P(MarksTest, RectanglesFollowTheHandToThePixel)
     Press(editor, "cmdShowPointer");
     Drag(view, size, {200, 150}, {900, -900});
     enter("beyond");
-    const QStringList expected = {
-        "beyond 352,0 48x64",     "bottom 176,118 48x74",   "bottom left 196,118 28x74", "bottom right 176,118 68x74",
-        "left 196,118 28x64",     "move 196,128 48x64",     "right 176,118 68x64",       "top 176,128 48x54",
-        "top left 196,128 28x54", "top right 176,128 68x54"};
+    const QStringList expected = {"beyond 352,0 48x64",         "bottom 176,118 48x74", "bottom left 196,118 28x74",
+                                  "bottom right 176,118 68x74", "left 196,118 28x64",   "move 196,128 48x64",
+                                  "right 176,118 68x64",        "top 176,128 48x54",    "top left 196,128 28x54",
+                                  "top right 176,128 68x54"};
     EXPECT_EQ(storedMarks(), expected);
 
     editor.showRecord(connection, 1);

@@ -36,6 +36,7 @@ TEST_F(WindowsTest, TheDatePickerTellsWhatIsWrongAndStaysOpen)
         const char* year;
         const char* message;
     };
+
     const Case cases[] = {{"", "29", "Feb", "1900", "Date \"29 Feb 1900\" is invalid. \n\nPlease press OK"},
                           {"", "31", "June", "1900", "Date \"31 June 1900\" is invalid. \n\nPlease press OK"},
                           {"Abt.", "3", "", "1900", "Date \"Abt. 3  1900\" is invalid. \nYou can't supply the day"},
@@ -71,8 +72,7 @@ TEST_F(WindowsTest, QueriesAreMadeRenamedDeletedAndRun)
     start(familyFile(3));
     pressOn("mnuQueries", "frmQueries", [&](QWidget& list) {
         hand.at("frmNewQuery", [&](QWidget& dialog) {
-            for (const auto& [name, message] :
-                 {std::pair("", "No Query Name"), {"initial", "Duplicate query name"}}) {
+            for (const auto& [name, message] : {std::pair("", "No Query Name"), {"initial", "Duplicate query name"}}) {
                 Type(dialog, "txtQueryName", name);
                 hand.answer(message);
                 Press(dialog, "cmdOK");
@@ -111,7 +111,7 @@ TEST_F(WindowsTest, QueriesAreMadeRenamedDeletedAndRun)
     Choose(window(), "cboQuery", "Initial");
     EXPECT_EQ(position(), "Picture 2 of 3");
     Find<QComboBox>(window(), "cboQuery").setCurrentText("Late");
-    QTest::keyClick(&window(), Qt::Key_F5);
+    key(Qt::Key_F5);
     EXPECT_EQ(Shown(window(), "dtgTOC"), late);
     pressOn("mnuQueries", "frmQueries", [&](QWidget& list) {
         hand.answer("Confirm Query Delete", QMessageBox::No);
@@ -131,28 +131,28 @@ TEST_F(WindowsTest, ThePeoplePickerFindsAndSorts)
     Press(window(), "mnuAddPicRec");
     pressOn("cmdShowIndex", "frmPeople", [&](QWidget& picker) {
         const auto row = [&picker] { return CurrentRow(picker, "dtgPeople"); };
-        EXPECT_EQ(Shown(picker, "dtgPeople"), QStringList({"2|Bough,  Eve ||", "3|Root,  Abel ||", "1|Root,  Adam ||",
-                                                           "4|Root,  Ida ||"}));
+        EXPECT_EQ(Shown(picker, "dtgPeople"),
+                  QStringList({"2|Bough,  Eve ||", "3|Root,  Abel ||", "1|Root,  Adam ||", "4|Root,  Ida ||"}));
         Type(picker, "txtName", "Root, Ad");
         EXPECT_EQ(row(), 2);
-        Type(picker, "txtName", "Nobody");
-        EXPECT_EQ(row(), 2);
+        Type(picker, "txtName", "Root, Ax");
+        EXPECT_EQ(row(), 1);
         EXPECT_FALSE(Find<QWidget>(picker, "cmdNext").isEnabled());
         hand.enter("Find Name", "A");
         Press(picker, "cmdFind");
         EXPECT_EQ(text(picker, "txtName"), "Root,  Abel ");
         Press(picker, "cmdNext");
         Press(picker, "cmdNext");
-        EXPECT_EQ(text(picker, "txtName"), "Root,  Ida ");
+        EXPECT_EQ(row(), 3);
         hand.answer("No Next Match");
         Press(picker, "cmdNext");
         Press(picker, "cmdPrevious");
-        EXPECT_EQ(text(picker, "txtName"), "Root,  Adam ");
+        EXPECT_EQ(row(), 2);
         EXPECT_TRUE(Find<QWidget>(picker, "cmdNext").isEnabled());
-        for (const char* first : {"1|", "4|"}) {
+        for (const auto& [first, adam] : {std::pair("1|", 0), {"4|", 3}}) {
             ClickHeader(picker, "dtgPeople", 0);
             EXPECT_TRUE(Shown(picker, "dtgPeople").first().startsWith(first));
-            EXPECT_EQ(text(picker, "txtName"), "Root,  Adam ");
+            EXPECT_EQ(row(), adam);
         }
         QTest::keyClick(&picker, Qt::Key_Escape);
     });
