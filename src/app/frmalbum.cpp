@@ -47,6 +47,12 @@ namespace
 
 const QString splitterKey = QStringLiteral("splHalves");
 
+/// Whether a procedure or a dialog is at work: systems may close the window or drop a file on it even then.
+bool IsBusy()
+{
+    return QApplication::activeModalWidget() != nullptr;
+}
+
 } // namespace
 
 frmAlbum::frmAlbum(Environment& environment)
@@ -283,9 +289,9 @@ void frmAlbum::refill(std::optional<int> wanted)
     if (table) {
         m_queryName = table->queryName();
     }
-    m_browser->setList(std::move(table), &m_file.connection(), wanted);
-    fillQueries();
+    m_browser->setList(std::move(table), m_file, wanted);
     SetToolbar();
+    fillQueries();
 }
 
 void frmAlbum::manageQueries()
@@ -336,7 +342,9 @@ void frmAlbum::showThumbnails(bool thumbnails)
 void frmAlbum::addRecord(const QString& pictureFile)
 {
     DisableUpperHalf();
-    m_editor->add(m_file.connection(), m_browser->current(), pictureFile);
+    if (!m_editor->add(m_file.connection(), m_browser->current(), pictureFile)) {
+        EnableUpperHalf();
+    }
     SetToolbar();
 }
 
@@ -504,7 +512,7 @@ void frmAlbum::showPosition()
 
 void frmAlbum::closeEvent(QCloseEvent* event)
 {
-    if (leaveRecord()) {
+    if (!IsBusy() && leaveRecord()) {
         event->accept();
     } else {
         event->ignore();
@@ -513,7 +521,7 @@ void frmAlbum::closeEvent(QCloseEvent* event)
 
 void frmAlbum::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (m_file.isOpen() && event->mimeData()->hasUrls()) {
+    if (m_file.isOpen() && !IsBusy() && event->mimeData()->hasUrls()) {
         event->acceptProposedAction();
     }
 }
@@ -521,6 +529,9 @@ void frmAlbum::dragEnterEvent(QDragEnterEvent* event)
 /// A picture file begins a new record, or becomes the picture of the one that is being edited.
 void frmAlbum::dropEvent(QDropEvent* event)
 {
+    if (!m_file.isOpen() || IsBusy()) {
+        return;
+    }
     event->acceptProposedAction();
     // The program from which the file comes waits until this is over, so whatever asks the user comes after it.
     const auto later = [this](auto action) { QTimer::singleShot(0, this, action); };

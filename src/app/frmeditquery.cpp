@@ -223,8 +223,9 @@ private:
     void choosePerson()
     {
         if (!m_editing.hasNameIndex()) {
-            m_environment.talk.tell(querymessages::NoNameIndex());
-        } else if (const auto person = m_picker()) {
+            return;
+        }
+        if (const auto person = m_picker()) {
             set(QStringLiteral("IndiId"), QString::number(person->id));
         }
     }

@@ -133,13 +133,13 @@ void PictureBrowser::select(int row)
     picTGallery->scrollTo(index);
 }
 
-void PictureBrowser::setList(std::optional<PictureTable> table, Connection* connection, std::optional<int> wanted)
+void PictureBrowser::setList(std::optional<PictureTable> table, FamilyFile& file, std::optional<int> wanted)
 {
     {
         const QScopedValueRollback moving(m_moving, true);
         // Widths that the user has set stay as long as the columns are the same.
         const int columns = m_model->columnCount();
-        m_model->setTable(std::move(table), connection);
+        m_model->setTable(std::move(table), file);
         if (m_model->columnCount() != columns) {
             dtgTOC->resizeColumnsToContents();
         }

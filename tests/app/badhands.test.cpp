@@ -30,8 +30,10 @@ public:
         const rlimit none{0, m_usual.rlim_max};
         setrlimit(RLIMIT_FSIZE, &none);
     }
+
     DiskFailure(const DiskFailure&) = delete;
     DiskFailure& operator=(const DiskFailure&) = delete;
+
     ~DiskFailure() { setrlimit(RLIMIT_FSIZE, &m_usual); }
 
 private:
@@ -49,10 +51,11 @@ protected:
             urls << QUrl::fromLocalFile(path);
         }
         data.setUrls(urls);
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&window(), &enter);
         QDropEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(&window(), &event);
         QApplication::processEvents();
-        hand.wait();
     }
 
     QString title() { return Find<QLineEdit>(window(), "txtTitle").text(); }
@@ -67,15 +70,18 @@ TEST_F(BadHandsTest, WhatIsNoPictureIsRefusedAtOnce)
     for (const QStringList& paths : {QStringList(world.path("")), {picture("a.jpg"), picture("b.jpg")}, {}}) {
         hand.answer("Please drop one picture file");
         drop(paths);
+        hand.wait();
         EXPECT_EQ(position(), "Picture 1 of 1");
     }
     QElapsedTimer time;
     time.start();
     hand.answer("Picture Too Large");
     drop({video});
+    hand.wait();
     EXPECT_LT(time.elapsed(), 2000);
     hand.answer("Open Picture");
     drop({world.write("damaged.jpg", QByteArray("\xFF\xD8\xFF\xE0 is how a picture begins"))});
+    hand.wait();
     EXPECT_EQ(position(), "Editing");
     drop({picture("fine.jpg")});
     key(Qt::CTRL | Qt::Key_S);
@@ -98,7 +104,7 @@ TEST_F(BadHandsTest, ATitleOfAHundredThousandCharactersIsRefusedAndNotLost)
     EXPECT_EQ(title().size(), 100'000);
     Type(window(), "txtTitle", "Short");
     key(Qt::CTRL | Qt::Key_S);
-    EXPECT_EQ(stored("SELECT Title FROM AlbumTOC"), QStringList("Short"));
+    EXPECT_EQ(stored("SELECT Title FROM AlbumTOC ORDER BY PicId"), QStringList("Short"));
 }
 
 TEST_F(BadHandsTest, WithoutATreeThereIsNobodyToPick)
@@ -145,7 +151,7 @@ TEST_F(BadHandsTest, ADiskThatFailsLosesNothing)
         key(Qt::Key_Delete);
         EXPECT_EQ(position(), "Picture 1 of 2");
     }
-    EXPECT_EQ(stored("SELECT Title FROM AlbumTOC"), QStringList({"Kept", "Picture 2"}));
+    EXPECT_EQ(stored("SELECT Title FROM AlbumTOC ORDER BY PicId"), QStringList({"Kept", "Picture 2"}));
 }
 
 TEST_F(BadHandsTest, AFileThatIsGoneIsNotWrittenIntoThinAir)
@@ -168,7 +174,7 @@ TEST_F(BadHandsTest, AFileThatIsGoneIsNotWrittenIntoThinAir)
     hand.choose("Save Family File As", rescue);
     Press(window(), "mnuSaveAs");
     world.settings.setValue(setting::openCreateFamFile, setting::lastFamilyFile, rescue);
-    EXPECT_EQ(stored("SELECT Title FROM AlbumTOC"), QStringList({"First", "Picture 2"}));
+    EXPECT_EQ(stored("SELECT Title FROM AlbumTOC ORDER BY PicId"), QStringList({"First", "Picture 2"}));
 }
 
 TEST_F(BadHandsTest, AFileThatCannotBeReadEndsInMessagesNotInACrash)
@@ -179,10 +185,7 @@ TEST_F(BadHandsTest, AFileThatCannotBeReadEndsInMessagesNotInACrash)
     for (const char* action : {"mnuAddPicRec", "last", "mnuEditPicRec", "mnuProperties", "mnuContEdit", "mnuQueries",
                                "runquery", "mnuImportGedcom"}) {
         if (Find<QAction>(window(), action).isEnabled()) {
-            hand.toleratingMessages([&] { Press(window(), action); });
-        }
-        if (Find<QWidget>(window(), "cmdCancel").isEnabled()) {
-            Press(window(), "cmdCancel");
+            EXPECT_GT(hand.whateverComes([&] { Press(window(), action); }), 0) << action;
         }
     }
 }
@@ -210,7 +213,7 @@ TEST_F(BadHandsTest, WhatIsBusyDoesNotClose)
     start(familyFile(1));
     hand.choose("Select GEDCOM file", world.write("large.ged", "0 HEAD\n1 CHAR UTF-8\n" + people + "0 TRLR\n"));
     hand.at("frmProgress", [this](QWidget&) {
-        QApplication::quit();
+        QApplication::closeAllWindows();
         window().close();
         drop({picture("late.jpg")});
         EXPECT_TRUE(window().isVisible());
@@ -218,11 +221,12 @@ TEST_F(BadHandsTest, WhatIsBusyDoesNotClose)
     hand.press("frmImportReport", "cmdOK");
     Press(window(), "mnuImportGedcom");
     EXPECT_EQ(position(), "Picture 1 of 1");
-    hand.at("frmQueries", [this](QWidget& list) {
-        QApplication::quit();
+    hand.at("frmQueries", [](QWidget& list) {
+        QApplication::closeAllWindows();
         EXPECT_FALSE(list.isVisible());
     });
     Press(window(), "mnuQueries");
+    EXPECT_FALSE(window().isVisible());
     EXPECT_EQ(stored("SELECT count(*) FROM Indi"), QStringList("20000"));
 }
 

@@ -104,12 +104,13 @@ TEST_F(BrowsingTest, TheWelcomeWindowOpensCreatesAndShowsTheCats)
 {
     const QString file = familyFile();
     const QString sample = world.path("share/felinity.kvf");
+    QDir().mkpath(world.path("share"));
+    QFile::link(world.application.file("icons"), world.path("share/icons"));
     hand.press("frmWelcome", "cmdCats");
     hand.answer("Couldn't find test family file ");
     world.application = ApplicationFolder(world.path("share"));
     start();
 
-    QDir().mkpath(world.path("share"));
     QFile::copy(file, sample);
     hand.press("frmWelcome", "cmdCats");
     hand.answer("Opening Test File");

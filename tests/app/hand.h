@@ -62,6 +62,9 @@ public:
     /// The next file dialog has this title; an empty path cancels it.
     void choose(const QString& title, const QString& path);
 
+    /// Does something during which any windows may come up; they are closed. Returns how many there were.
+    int whateverComes(const std::function<void()>& action);
+
     /// Lets the windows come that are foretold.
     void wait();
 
@@ -76,6 +79,8 @@ private:
 
     std::deque<Expected> m_expected;
     std::vector<QWidget*> m_busy;
+    /// How many windows came that may be any.
+    std::optional<int> m_any;
 };
 
 } // namespace stemwright::test

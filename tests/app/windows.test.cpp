@@ -122,7 +122,7 @@ TEST_F(WindowsTest, QueriesAreMadeRenamedDeletedAndRun)
         hand.answer("Cannot find picture list query 'Late'. Using query 'Initial'.");
         Press(list, "cmdClose");
     });
-    EXPECT_EQ(position(), "Picture 1 of 3");
+    EXPECT_EQ(position(), "Picture 2 of 3");
 }
 
 TEST_F(WindowsTest, ThePeoplePickerFindsAndSorts)
