@@ -182,12 +182,11 @@ TEST_F(BadHandsTest, AFileThatCannotBeReadEndsInMessagesNotInACrash)
     const QString file = familyFile(300);
     start(file);
     QFile(file).resize(0);
-    for (const char* action : {"mnuAddPicRec", "last", "mnuEditPicRec", "mnuProperties", "mnuContEdit", "mnuQueries",
-                               "runquery", "mnuImportGedcom"}) {
-        if (Find<QAction>(window(), action).isEnabled()) {
-            EXPECT_GT(hand.whateverComes([&] { Press(window(), action); }), 0) << action;
-        }
+    Press(window(), "last");
+    for (const char* action : {"mnuContEdit", "mnuProperties"}) {
+        EXPECT_GT(hand.whateverComes([&] { Press(window(), action); }), 0) << action;
     }
+    EXPECT_EQ(position(), "Picture 300 of 300");
 }
 
 TEST_F(BadHandsTest, TwoWindowsOnOneFileAreToldSo)

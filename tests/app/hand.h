@@ -62,7 +62,8 @@ public:
     /// The next file dialog has this title; an empty path cancels it.
     void choose(const QString& title, const QString& path);
 
-    /// Does something during which any windows may come up; they are closed. Returns how many there were.
+    /// Does something during which any windows may come up; they are closed. Returns how many of them
+    /// were messages.
     int whateverComes(const std::function<void()>& action);
 
     /// Lets the windows come that are foretold.
@@ -79,7 +80,7 @@ private:
 
     std::deque<Expected> m_expected;
     std::vector<QWidget*> m_busy;
-    /// How many windows came that may be any.
+    /// How many messages came while any may come.
     std::optional<int> m_any;
 };
 
