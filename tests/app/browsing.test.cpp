@@ -84,6 +84,21 @@ TEST_F(BrowsingTest, ThumbnailsStandForTheListUnlessItIsTooLong)
     EXPECT_FALSE(Find<QAction>(window(), "mnuThumbView").isChecked());
 }
 
+TEST_F(BrowsingTest, ThumbnailsAreShownWhileAnotherFileTakesTheirPlace)
+{
+    start(familyFile(300));
+    Press(window(), "mnuThumbView");
+    hand.choose("Create New Family File", world.path("new.kvf"));
+    hand.at("Family File Creation Confirmation", [this](QWidget& box) {
+        auto& gallery = Find<QAbstractItemView>(window(), "picTGallery");
+        gallery.scrollToBottom();
+        gallery.grab();
+        static_cast<QMessageBox&>(box).button(QMessageBox::Ok)->click();
+    });
+    Press(window(), "mnuNew");
+    EXPECT_EQ(position(), "No pictures");
+}
+
 TEST_F(BrowsingTest, TheWindowComesBackAsItWasLeft)
 {
     start(familyFile(1));
