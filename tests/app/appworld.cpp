@@ -55,7 +55,7 @@ QStringList AppTest::stored(const QString& sql)
     quit();
     Connection connection(world.settings.value(setting::openCreateFamFile, setting::lastFamilyFile),
                           OpenMode::ReadWrite);
-    return Column(connection, sql);
+    return Rows(connection, sql);
 }
 
 void AppTest::key(QKeyCombination key)

@@ -36,8 +36,8 @@ protected:
     QStringList storedMarks()
     {
         Press(editor, "cmdApply");
-        return Column(connection, "SELECT Name || ' ' || X || ',' || Y || ' ' || Width || 'x' || Height "
-                                  "FROM Pic2Person ORDER BY Name");
+        return Rows(connection, "SELECT Name || ' ' || X || ',' || Y || ' ' || Width || 'x' || Height "
+                                "FROM Pic2Person ORDER BY Name");
     }
 
     const QSize size{400, 300};
