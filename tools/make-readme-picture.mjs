@@ -10,7 +10,7 @@ import { fileURLToPath } from "node:url";
 import { discard, publishSample } from "../tests/site/published.mjs";
 import { launch, openSite, showInCentre } from "../tests/site/support.mjs";
 
-const size = { width: 800, height: 700 };
+const size = { width: 1000, height: 800 };
 const site = publishSample("Default");
 const browser = await launch();
 
