@@ -78,6 +78,23 @@ void MeasureOpening(const Bench& bench, Table& table)
                   MeasurePair(bench, stage, {"measure_album", "list", file}, {"limit_album", "list", file}), 2.0);
 }
 
+void MeasureWindows(const Bench& bench, Table& table)
+{
+    constexpr double slowest = 0.050;
+    const Stage stage(bench);
+    const std::string file = MakeFamilyFile(stage, "windows.kvf", 100'000, 20'000, 50'000);
+    const auto rounds = Repeat(bench, [&]() -> Round {
+        return {stage.measured({"measure_windows", "start", file}).seconds,
+                stage.measured({"limit_windows", file}).seconds};
+    });
+    table.addPair("start to the usable window", "20,000", Summary(0, rounds, 0), 1.5);
+    for (const auto& [work, figure] :
+         {std::pair{"picker", "keystroke in the person picker, 99 of 100"},
+          std::pair{"next", "next picture, 99 of 100"}, std::pair{"sort", "sorting by a column, 99 of 100"}}) {
+        table.addTime(figure, "20,000", stage.measured({"measure_windows", work, file}).workSeconds, slowest);
+    }
+}
+
 void MeasureLargePictures(const Bench& bench, Table& table)
 {
     constexpr int pictures = 1'000;

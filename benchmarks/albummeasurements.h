@@ -27,4 +27,8 @@ void MeasureLargePictures(const Bench& bench, Table& table);
 /// Publishing an album against copying the site.
 void MeasurePublishedAlbum(const Bench& bench, Table& table);
 
+/// The main window's start against a bare window that shows the same, and the slowest of the things that are done most
+/// in windows.
+void MeasureWindows(const Bench& bench, Table& table);
+
 } // namespace stemwright::bench

@@ -45,7 +45,7 @@ const std::vector<AlbumWork>& AllAlbumWork()
 {
     static const std::vector<AlbumWork> work = {
         {"thumbnails", MeasureThumbnails}, {"names", MeasureNames},          {"opening", MeasureOpening},
-        {"large", MeasureLargePictures},   {"album", MeasurePublishedAlbum},
+        {"large", MeasureLargePictures},   {"album", MeasurePublishedAlbum}, {"windows", MeasureWindows},
     };
     return work;
 }
@@ -154,6 +154,7 @@ int main(int argc, char** argv)
         // The measured programs must neither see nor change the settings of whoever measures.
         const WorkFolder settings(options.bench.memory);
         setenv("XDG_CONFIG_HOME", settings.path("").c_str(), 1);
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
         Table table;
         for (const Work& work : AllWork()) {
             if (IsWanted(options, work.name)) {

@@ -5,6 +5,7 @@
 #include "index/namesearch.h"
 #include "photofolder.h"
 #include "queries/picturetable.h"
+#include "quietdesk.h"
 #include "stopwatch.h"
 #include "store/file/familyfile.h"
 
@@ -22,32 +23,12 @@ namespace
 using namespace stemwright;
 using bench::Stopwatch;
 
-/// Nobody is asked in a measurement.
-class NoTalk : public Talk
-{
-public:
-    Button ask(const Message& message) override { throw Error(message.text); }
-
-    void tell(const Message& message) override { throw Error(message.text); }
-
-    bool tellWithCheckBox(const Message& message, const QString& /*checkBox*/) override { throw Error(message.text); }
-
-    std::optional<QString> input(const InputRequest& request) override { throw Error(request.prompt); }
-
-    std::optional<QString> chooseFile(const FileRequest& request) override { throw Error(request.title); }
-
-    std::unique_ptr<Progress> progress(const QString& title, const QString& /*caption*/) override
-    {
-        throw Error(title);
-    }
-};
-
 class Desk
 {
 public:
     void open(const QString& path)
     {
-        if (!OpenFamilyFile(m_file, path, m_environment)) {
+        if (!OpenFamilyFile(m_file, path, m_desk.environment)) {
             throw Error(path);
         }
     }
@@ -55,7 +36,7 @@ public:
     /// The list of pictures of the user's query, which shows at least one.
     PictureTable list()
     {
-        std::optional<PictureTable> list = OpenPictureList(connection(), m_environment, {});
+        std::optional<PictureTable> list = OpenPictureList(connection(), m_desk.environment, {});
         if (!list || list->rowCount() == 0) {
             throw Error(QStringLiteral("The family file shows no pictures."));
         }
@@ -65,11 +46,7 @@ public:
     Connection& connection() { return m_file.connection(); }
 
 private:
-    NoTalk m_talk;
-    MemorySettings m_settings;
-    SystemClock m_clock;
-    ApplicationFolder m_application = ApplicationFolder::ofProgram();
-    Environment m_environment{m_talk, m_settings, m_clock, m_application};
+    bench::QuietDesk m_desk;
     FamilyFile m_file;
 };
 

@@ -2,25 +2,33 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 
-// Publishes the imaginary family of tests/data/site and takes the README's picture of its site, docs/images/site.png. Needs what
-// `tools/setup build test` installs and the built program.
+// Publishes the sample family and takes the README's picture of its site, docs/images/site.png: a tree, and beside it one of the
+// pictures with a person found in it. Needs what `tools/setup build test` installs, the built program and the built sample.
 
+import fs from "node:fs";
 import { fileURLToPath } from "node:url";
-import { discard, publish } from "../tests/site/published.mjs";
-import { launch, openSite, screenshot, showInCentre } from "../tests/site/support.mjs";
+import { discard, publishSample } from "../tests/site/published.mjs";
+import { launch, openSite, showInCentre } from "../tests/site/support.mjs";
 
-const site = publish({
-    gedcom: "thornbury.ged",
-    settings: { PageStyle: 0, PersPages: 1, MaxGenOnPage: 3, SiteTitle: "The Thornburys of Ashcombe" },
-    trees: [{ head: 1, display: "Outline" }, { head: 1, display: "CollapsiTree" }],
-    items: [["Birth", "b."], ["Marriage", "m."], ["Death", "d."]].map(([item, sign]) => [item, "--before", ` ${sign} `, "--before-place", ", "]),
-});
+const size = { width: 1000, height: 800 };
+const site = publishSample("Default");
 const browser = await launch();
+
+async function shoot(file, prepare) {
+    const page = await openSite(browser, site, { viewport: size });
+    await prepare(await showInCentre(page, file));
+    await page.frame("frmTopLeft").locator("#DocOwner").getByText(/Barnaby|Seven/).waitFor();
+    return (await page.screenshot()).toString("base64");
+}
+
 try {
-    const page = await openSite(browser, site, { viewport: { width: 1080, height: 640 } });
-    await showInCentre(page, "Outline_1_1.html");
-    await page.frame("frmTopLeft").locator("#DocOwner").getByText("Josiah").waitFor();
-    await screenshot(page, fileURLToPath(new URL("../docs/images/site.png", import.meta.url)));
+    const pictures = [
+        await shoot("Outline_1_1.html", (frame) => frame.locator(".line").first().waitFor()),
+        await shoot("PicPage24.html", (frame) => frame.getByText("Whiskerton, Hugo", { exact: true }).hover()),
+    ];
+    const sheet = await browser.newPage({ viewport: { width: 2 * size.width + 24, height: size.height } });
+    await sheet.setContent(`<body style="margin: 0; display: flex; gap: 24px">${pictures.map((data) => `<img src="data:image/png;base64,${data}">`).join("")}`);
+    fs.writeFileSync(fileURLToPath(new URL("../docs/images/site.png", import.meta.url)), await sheet.screenshot());
 } finally {
     await browser.close();
     discard(site);

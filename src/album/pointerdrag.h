@@ -15,7 +15,7 @@ namespace stemwright
 enum class DragMode { Move, Left, TopLeft, Top, TopRight, Right, BottomRight, Bottom, BottomLeft };
 
 /// The drag that a press at this place begins; no value outside the rectangle. Sides and corners are gripped up to
-///  pixels from the edge on either side of it, within a small rectangle up to a third of its length.
+/// `grip` pixels from the edge on either side of it, within a small rectangle up to a third of its length.
 std::optional<DragMode> DragModeAt(const QRectF& rectangle, QPointF place, double grip);
 
 /// The rectangle after a drag by `way` from where it was when the drag began. It stays within the picture, and no side

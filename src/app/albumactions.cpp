@@ -104,4 +104,21 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     }
 }
 
+void AlbumActions::enable(AlbumState now, int row, int rows) const
+{
+    const auto set = [](std::initializer_list<QAction*> actions, bool enabled) {
+        for (QAction* action : actions) {
+            action->setEnabled(enabled);
+        }
+    };
+    const bool browsing = now == AlbumState::Browsing;
+    set({mnuSaveAs, mnuProperties}, now != AlbumState::NoFile);
+    set({mnuImportGedcom, mnuAddPicRec, mnuQueries, mnuContEdit, actRunQuery, mnuExportTabletoText},
+        browsing || now == AlbumState::EmptyList);
+    set({mnuEditPicRec, mnuDelPicRec, mnuFind, mnuThumbView}, browsing);
+    set({actFirst, actPrevious}, browsing && row > 0);
+    set({actNext, actLast}, browsing && row < rows - 1);
+    set({mnuApply}, now == AlbumState::Editing);
+}
+
 } // namespace stemwright

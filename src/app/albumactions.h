@@ -9,10 +9,13 @@ class QMainWindow;
 class QMenu;
 class QToolBar;
 
-/// The menus and the toolbar of the main window as data: captions, icons, shortcuts, in their order. What the actions
-/// do, and when they are enabled, is the window's. Nothing here fails.
+/// The menus and the toolbar of the main window as data: captions, icons, shortcuts, in their order, and when each is
+/// enabled. What the actions do is the window's. Nothing here fails.
 namespace stemwright
 {
+
+/// What the main window is at.
+enum class AlbumState { NoFile, EmptyList, Browsing, Editing };
 
 struct AlbumActions {
     /// Fills the window's menu bar and adds its toolbar. `icons` is the folder of the drawings.
@@ -48,6 +51,9 @@ struct AlbumActions {
     QAction* actRunQuery;
 
     QToolBar* toolbar;
+
+    /// Enables what can be done now. `row` is the current one of `rows` pictures.
+    void enable(AlbumState now, int row, int rows) const;
 };
 
 } // namespace stemwright

@@ -19,6 +19,7 @@ namespace
 {
 
 constexpr int longestInput = 10'000;
+constexpr int inputWidth = 360;
 
 QMessageBox::Icon BoxIcon(Icon icon)
 {
@@ -156,6 +157,8 @@ std::optional<QString> DialogTalk::input(const InputRequest& request)
     dialog.setWindowTitle(request.title);
     dialog.setLabelText(request.prompt);
     dialog.setTextValue(request.text);
+    // Wide enough for its title and for what is typed, a name mostly.
+    dialog.resize(inputWidth, dialog.sizeHint().height());
     if (dialog.exec() != QDialog::Accepted) {
         return std::nullopt;
     }

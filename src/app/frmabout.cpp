@@ -29,6 +29,7 @@ QVBoxLayout* Masthead(const ApplicationFolder& application)
     auto* sign = new QLabel;
     sign->setPixmap(QIcon(application.file(QStringLiteral("icons/stemwright.svg"))).pixmap(signSize));
     sign->setAlignment(Qt::AlignCenter);
+    sign->setFixedHeight(signSize);
     auto* name = MakeLabel("lblName", QApplication::applicationDisplayName());
     QFont font = name->font();
     font.setPointSizeF(font.pointSizeF() * 2);

@@ -6,35 +6,28 @@
 #include "album/picturelist.h"
 #include "app/albumactions.h"
 #include "app/controls.h"
-#include "app/dialogtalk.h"
 #include "app/frmabout.h"
 #include "app/frmexporttableastext.h"
-#include "app/frmindex4addr.h"
-#include "app/frmpeople.h"
 #include "app/frmproperties.h"
 #include "app/frmqueries.h"
-#include "app/frmwelcome.h"
 #include "app/gedcomimport.h"
 #include "app/help.h"
 #include "app/messages.h"
 #include "app/picturebrowser.h"
 #include "app/recordeditor.h"
-#include "index/messages.h"
 #include "queries/querymanager.h"
 #include "store/engine/engineerror.h"
-#include "store/file/fileflows.h"
-#include "store/file/messages.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMimeData>
 #include <QtCore/QTimer>
+#include <QtGui/QAction>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QDropEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QMenu>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QToolBar>
@@ -47,13 +40,22 @@ namespace
 
 const QString splitterKey = QStringLiteral("splHalves");
 
+/// Whether a procedure or a dialog is at work: systems may close the window or drop a file on it even then.
+bool IsBusy()
+{
+    return QApplication::activeModalWidget() != nullptr;
+}
+
 } // namespace
 
 frmAlbum::frmAlbum(Environment& environment)
     : m_environment(environment),
       m_actions(std::make_unique<AlbumActions>(*this, environment.application.file(QStringLiteral("icons")))),
-      m_browser(new PictureBrowser(this)), m_editor(new RecordEditor(environment, this)),
-      m_halves(new QSplitter(Qt::Vertical, this)), cboQuery(new QComboBox), lblPosition(MakeLabel("lblPosition"))
+      m_files(new FileMenu(
+          *m_actions, environment, [this] { return leaveRecord(); }, this)),
+      m_file(m_files->file()), m_people(m_file, environment), m_browser(new PictureBrowser(this)),
+      m_editor(new RecordEditor(environment, this)), m_halves(new QSplitter(Qt::Vertical, this)),
+      cboQuery(new QComboBox), lblPosition(MakeLabel("lblPosition"))
 {
     setObjectName(QStringLiteral("frmAlbum"));
     setAcceptDrops(true);
@@ -77,7 +79,8 @@ frmAlbum::frmAlbum(Environment& environment)
     connectActions();
     connectParts();
     RememberPlace(*this, environment.settings);
-    restoreSplitter();
+    m_halves->restoreState(
+        QByteArray::fromBase64(environment.settings.value(setting::windows, splitterKey).toLatin1()));
     showFile();
 }
 
@@ -86,14 +89,11 @@ frmAlbum::~frmAlbum() = default;
 void frmAlbum::connectActions()
 {
     const auto act = [this](QAction* action, auto procedure) { connect(action, &QAction::triggered, this, procedure); };
-    act(m_actions->mnuNew, [this] { newFile(); });
-    act(m_actions->mnuOpen, [this] { openFile(); });
-    act(m_actions->mnuSaveAs, [this] { saveAs(); });
     act(m_actions->mnuExportTabletoText, [this] { exportList(); });
     act(m_actions->mnuImportGedcom, [this] { importGedcom(); });
     act(m_actions->mnuProperties, [this] { showProperties(); });
     act(m_actions->mnuExit, [this] { close(); });
-    act(m_actions->mnuContEdit, [this] { editContacts(); });
+    act(m_actions->mnuContEdit, [this] { m_people.editContacts(this); });
     act(m_actions->mnuAddPicRec, [this] { addRecord(); });
     act(m_actions->mnuEditPicRec, [this] { editRecord(); });
     act(m_actions->mnuDelPicRec, [this] { deleteRecord(); });
@@ -112,100 +112,21 @@ void frmAlbum::connectActions()
 
 void frmAlbum::connectParts()
 {
+    connect(m_files, &FileMenu::opened, this, &frmAlbum::showFile);
     connect(m_browser, &PictureBrowser::currentChanged, this, &frmAlbum::recordChanged);
     connect(m_browser, &PictureBrowser::activated, this, &frmAlbum::editRecord);
     connect(m_browser, &PictureBrowser::galleryLeft, this, [this] { showThumbnails(true); });
     connect(m_editor, &RecordEditor::applied, this, &frmAlbum::recordApplied);
     connect(m_editor, &RecordEditor::cancelled, this, &frmAlbum::recordCancelled);
     connect(cboQuery, &QComboBox::textActivated, this, &frmAlbum::runQuery);
-    m_editor->setPersonPicker([this] { return pickPerson(); });
+    m_editor->setPersonPicker([this] { return m_people.pick(); });
     connect(m_halves, &QSplitter::splitterMoved, this, [this] {
         m_environment.settings.setValue(setting::windows, splitterKey,
                                         QString::fromLatin1(m_halves->saveState().toBase64()));
     });
 }
 
-void frmAlbum::restoreSplitter()
-{
-    m_halves->restoreState(
-        QByteArray::fromBase64(m_environment.settings.value(setting::windows, splitterKey).toLatin1()));
-}
-
 // The family file.
-
-void frmAlbum::start(const QString& fileArgument)
-{
-    const QString last = m_environment.settings.value(setting::openCreateFamFile, setting::lastFamilyFile);
-    const QString path = fileArgument.isEmpty() ? last : FamilyFileOfArgument(fileArgument);
-    if (!path.isEmpty()) {
-        openThis(path);
-    }
-    if (!m_file.isOpen()) {
-        welcome();
-    }
-}
-
-void frmAlbum::welcome()
-{
-    switch (AskAtWelcome(*this)) {
-    case WelcomeChoice::Create:
-        newFile();
-        break;
-    case WelcomeChoice::Open:
-        openFile();
-        break;
-    case WelcomeChoice::Cats:
-        openSample();
-        break;
-    case WelcomeChoice::None:
-        break;
-    }
-}
-
-void frmAlbum::newFile()
-{
-    if (!leaveRecord()) {
-        return;
-    }
-    const auto path = m_environment.talk.chooseFile(storemessages::ChooseNewFamilyFile());
-    if (path && CreateNewFamilyFile(m_file, *path, m_environment)) {
-        showFile();
-    }
-}
-
-void frmAlbum::openFile()
-{
-    if (!leaveRecord()) {
-        return;
-    }
-    if (const auto path = m_environment.talk.chooseFile(storemessages::ChooseFamilyFile())) {
-        openThis(*path);
-    }
-}
-
-void frmAlbum::openThis(const QString& path)
-{
-    if (leaveRecord() && OpenAlbum(m_file, path, m_environment)) {
-        showFile();
-    }
-}
-
-void frmAlbum::openSample()
-{
-    if (leaveRecord() && OpenTestDB(m_file, m_environment)) {
-        showFile();
-    }
-}
-
-void frmAlbum::saveAs()
-{
-    if (!leaveRecord()) {
-        return;
-    }
-    if (const auto path = m_environment.talk.chooseFile(storemessages::ChooseCopy())) {
-        SaveFamilyFileAs(m_file, *path, m_environment);
-    }
-}
 
 /// Fills the window from the family file, or empties it.
 void frmAlbum::showFile()
@@ -214,8 +135,7 @@ void frmAlbum::showFile()
     setWindowTitle(m_file.isOpen() ? application + QStringLiteral(" - ") + QDir::toNativeSeparators(m_file.path())
                                    : application);
     m_queryName.clear();
-    m_nameIndex.reset();
-    fillRecentFiles();
+    m_people.forget();
     if (m_file.isOpen()) {
         refill(std::nullopt);
     } else {
@@ -224,23 +144,10 @@ void frmAlbum::showFile()
     }
 }
 
-void frmAlbum::fillRecentFiles()
-{
-    m_actions->mnuRecent->clear();
-    int number = 0;
-    for (const QString& path : RecentFamilyFiles(m_environment.settings)) {
-        QString caption = QDir::toNativeSeparators(path);
-        caption.replace(u'&', QStringLiteral("&&"));
-        QAction* action = m_actions->mnuRecent->addAction(QStringLiteral("&%1  %2").arg(++number % 10).arg(caption));
-        connect(action, &QAction::triggered, this, [this, path] { openThis(path); });
-    }
-    m_actions->mnuRecent->setEnabled(number > 0);
-}
-
 void frmAlbum::importGedcom()
 {
     if (leaveRecord() && ImportGedcomInto(m_file, m_environment, *this)) {
-        m_nameIndex.reset();
+        m_people.forget();
         refill(m_browser->current());
     }
 }
@@ -283,9 +190,9 @@ void frmAlbum::refill(std::optional<int> wanted)
     if (table) {
         m_queryName = table->queryName();
     }
-    m_browser->setList(std::move(table), &m_file.connection(), wanted);
-    fillQueries();
+    m_browser->setList(std::move(table), m_file, wanted);
     SetToolbar();
+    fillQueries();
 }
 
 void frmAlbum::manageQueries()
@@ -294,7 +201,7 @@ void frmAlbum::manageQueries()
         return;
     }
     const auto run = ShowQueries(
-        m_file.connection(), m_environment, m_queryName, [this] { return pickPerson(); }, this);
+        m_file.connection(), m_environment, m_queryName, [this] { return m_people.pick(); }, this);
     if (run) {
         m_queryName = *run;
     }
@@ -336,13 +243,15 @@ void frmAlbum::showThumbnails(bool thumbnails)
 void frmAlbum::addRecord(const QString& pictureFile)
 {
     DisableUpperHalf();
-    m_editor->add(m_file.connection(), m_browser->current(), pictureFile);
+    if (!m_editor->add(m_file.connection(), m_browser->current(), pictureFile)) {
+        EnableUpperHalf();
+    }
     SetToolbar();
 }
 
 void frmAlbum::editRecord()
 {
-    if (const std::optional<int> current = m_browser->current(); current && state() == State::Browsing) {
+    if (const std::optional<int> current = m_browser->current(); current && state() == AlbumState::Browsing) {
         if (m_editor->edit(m_file.connection(), *current)) {
             DisableUpperHalf();
         }
@@ -406,95 +315,39 @@ bool frmAlbum::leaveRecord()
     }
 }
 
-void frmAlbum::editContacts()
-{
-    if (openNameIndex(indexmessages::NoListOfNames())) {
-        ShowListOfNames(*m_nameIndex, m_file.connection(), m_environment, this);
-    }
-}
-
-std::optional<ChosenPerson> frmAlbum::pickPerson()
-{
-    if (!openNameIndex(indexmessages::NoIndexOfNames())) {
-        return std::nullopt;
-    }
-    return ChoosePerson(*m_nameIndex, m_environment, FrontWindow());
-}
-
-/// The index is read when it is needed first, and again after the tree was replaced.
-bool frmAlbum::openNameIndex(const Message& absence)
-{
-    if (m_nameIndex) {
-        return true;
-    }
-    bool opened = false;
-    std::optional<QString> failure;
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    try {
-        opened = OpenNameIndex(m_nameIndex, m_file.connection());
-    } catch (const std::exception& exception) {
-        failure = ReasonText(exception);
-    }
-    QApplication::restoreOverrideCursor();
-    if (!opened) {
-        m_environment.talk.tell(failure ? appmessages::Failed(*failure) : absence);
-    }
-    return opened;
-}
-
 // What can be done now.
 
-frmAlbum::State frmAlbum::state() const
+AlbumState frmAlbum::state() const
 {
     if (!m_file.isOpen()) {
-        return State::NoFile;
+        return AlbumState::NoFile;
     }
     if (m_editor->isEditing()) {
-        return State::Editing;
+        return AlbumState::Editing;
     }
-    return m_browser->rowCount() == 0 ? State::EmptyList : State::Browsing;
+    return m_browser->rowCount() == 0 ? AlbumState::EmptyList : AlbumState::Browsing;
 }
 
 void frmAlbum::SetToolbar()
 {
-    const State now = state();
-    const bool open = now != State::NoFile;
-    const bool idle = now == State::EmptyList || now == State::Browsing;
-    const bool browsing = now == State::Browsing;
-    for (QAction* action : {m_actions->mnuSaveAs, m_actions->mnuProperties}) {
-        action->setEnabled(open);
-    }
-    for (QAction* action : {m_actions->mnuImportGedcom, m_actions->mnuAddPicRec, m_actions->mnuQueries,
-                            m_actions->mnuContEdit, m_actions->actRunQuery, m_actions->mnuExportTabletoText}) {
-        action->setEnabled(idle);
-    }
-    for (QAction* action :
-         {m_actions->mnuEditPicRec, m_actions->mnuDelPicRec, m_actions->mnuFind, m_actions->mnuThumbView}) {
-        action->setEnabled(browsing);
-    }
-    const int row = m_browser->row();
-    m_actions->actFirst->setEnabled(browsing && row > 0);
-    m_actions->actPrevious->setEnabled(browsing && row > 0);
-    m_actions->actNext->setEnabled(browsing && row < m_browser->rowCount() - 1);
-    m_actions->actLast->setEnabled(browsing && row < m_browser->rowCount() - 1);
-    m_actions->mnuApply->setEnabled(now == State::Editing);
-    cboQuery->setEnabled(idle);
+    m_actions->enable(state(), m_browser->row(), m_browser->rowCount());
+    cboQuery->setEnabled(m_actions->actRunQuery->isEnabled());
     showPosition();
 }
 
 void frmAlbum::showPosition()
 {
     switch (state()) {
-    case State::NoFile:
+    case AlbumState::NoFile:
         lblPosition->clear();
         break;
-    case State::EmptyList:
+    case AlbumState::EmptyList:
         lblPosition->setText(QStringLiteral("No pictures"));
         break;
-    case State::Browsing:
+    case AlbumState::Browsing:
         lblPosition->setText(QStringLiteral("Picture %1 of %2").arg(m_browser->row() + 1).arg(m_browser->rowCount()));
         break;
-    case State::Editing:
+    case AlbumState::Editing:
         lblPosition->setText(QStringLiteral("Editing"));
         break;
     }
@@ -504,7 +357,7 @@ void frmAlbum::showPosition()
 
 void frmAlbum::closeEvent(QCloseEvent* event)
 {
-    if (leaveRecord()) {
+    if (!IsBusy() && leaveRecord()) {
         event->accept();
     } else {
         event->ignore();
@@ -513,7 +366,7 @@ void frmAlbum::closeEvent(QCloseEvent* event)
 
 void frmAlbum::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (m_file.isOpen() && event->mimeData()->hasUrls()) {
+    if (m_file.isOpen() && !IsBusy() && event->mimeData()->hasUrls()) {
         event->acceptProposedAction();
     }
 }
@@ -521,6 +374,9 @@ void frmAlbum::dragEnterEvent(QDragEnterEvent* event)
 /// A picture file begins a new record, or becomes the picture of the one that is being edited.
 void frmAlbum::dropEvent(QDropEvent* event)
 {
+    if (!m_file.isOpen() || IsBusy()) {
+        return;
+    }
     event->acceptProposedAction();
     // The program from which the file comes waits until this is over, so whatever asks the user comes after it.
     const auto later = [this](auto action) { QTimer::singleShot(0, this, action); };

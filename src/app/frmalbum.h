@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/filemenu.h"
+#include "app/people.h"
 #include "base/environment.h"
-#include "index/namesearch.h"
-#include "store/file/familyfile.h"
 
 #include <QtWidgets/QMainWindow>
 
 class QComboBox;
 class QLabel;
-class QMenu;
 class QSplitter;
 
 /// The main window: above, the current list of pictures; below, the record of the current one. It decides what can be
@@ -19,6 +18,7 @@ class QSplitter;
 namespace stemwright
 {
 
+enum class AlbumState;
 struct AlbumActions;
 class PictureBrowser;
 class RecordEditor;
@@ -34,7 +34,7 @@ public:
 
     /// Opens the family file that the program was started with, or the last one; without any, or where that does not
     /// open, the welcome window offers what to do.
-    void start(const QString& fileArgument);
+    void start(const QString& fileArgument) { m_files->start(fileArgument); }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -42,21 +42,11 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    enum class State { NoFile, EmptyList, Browsing, Editing };
-
     void connectActions();
     void connectParts();
-    void restoreSplitter();
 
     // The family file.
-    void newFile();
-    void openFile();
-    void openThis(const QString& path);
-    void openSample();
-    void saveAs();
-    void welcome();
     void showFile();
-    void fillRecentFiles();
     void importGedcom();
     void exportList();
     void showProperties();
@@ -81,22 +71,17 @@ private:
     /// Asks what becomes of a record that is being edited. False when the user wants to go on editing it.
     bool leaveRecord();
 
-    // People.
-    void editContacts();
-    std::optional<ChosenPerson> pickPerson();
-    /// Makes the index of names available. False, after `absence` was told, when the tree has nobody.
-    bool openNameIndex(const Message& absence);
-
-    State state() const;
+    AlbumState state() const;
     /// Enables what can be done now.
     void SetToolbar();
     void showPosition();
 
     Environment& m_environment;
-    FamilyFile m_file;
-    QString m_queryName;
-    std::optional<NameIndex> m_nameIndex;
     std::unique_ptr<AlbumActions> m_actions;
+    FileMenu* m_files;
+    FamilyFile& m_file;
+    People m_people;
+    QString m_queryName;
     PictureBrowser* m_browser;
     RecordEditor* m_editor;
     QSplitter* m_halves;

@@ -138,12 +138,13 @@ private:
 
     QHBoxLayout* personCriteria()
     {
-        lblPerson->setMinimumWidth(lblPerson->fontMetrics().averageCharWidth() * 24);
+        lblPerson->setMinimumWidth(lblPerson->fontMetrics().averageCharWidth() * 36);
         lblPerson->setFrameShape(QFrame::StyledPanel);
         QPushButton* index = MakeButton("cmdIndex", QStringLiteral("&Index..."));
         connect(index, &QPushButton::clicked, this, &frmEditQuery::choosePerson);
         QHBoxLayout* row = Row({lblPerson, index, yesNo(QStringLiteral("WithAncs"), QStringLiteral("Ancestors")),
                                 yesNo(QStringLiteral("WithDescs"), QStringLiteral("Descendants"))});
+        row->setStretchFactor(lblPerson, 1);
         return row;
     }
 
@@ -223,8 +224,9 @@ private:
     void choosePerson()
     {
         if (!m_editing.hasNameIndex()) {
-            m_environment.talk.tell(querymessages::NoNameIndex());
-        } else if (const auto person = m_picker()) {
+            return;
+        }
+        if (const auto person = m_picker()) {
             set(QStringLiteral("IndiId"), QString::number(person->id));
         }
     }

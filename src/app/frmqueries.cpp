@@ -134,7 +134,7 @@ private:
     std::optional<QString> m_toRun;
     QListWidget* lstQueries = new QListWidget;
     QPushButton* cmdEdit = MakeButton("cmdEdit", QStringLiteral("&Edit..."));
-    QPushButton* cmdRename = MakeButton("cmdRename", QStringLiteral("Re&name..."));
+    QPushButton* cmdRename = MakeButton("cmdRename", QStringLiteral("Rena&me..."));
     QPushButton* cmdDelete = MakeButton("cmdDelete", QStringLiteral("&Delete"));
     QPushButton* cmdRun = MakeButton("cmdRun", QStringLiteral("&Run"));
 };

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
+#include "app/application.h"
 #include "app/dialogtalk.h"
 #include "app/frmabout.h"
 #include "app/frmalbum.h"
@@ -11,7 +12,6 @@
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QLoggingCategory>
 #include <QtGui/QIcon>
-#include <QtWidgets/QApplication>
 
 namespace stemwright
 {
@@ -32,11 +32,12 @@ QString FileArgument(const QApplication& application)
     return parser.positionalArguments().value(0);
 }
 
-int Run(QApplication& program)
+int Run(Application& program)
 {
     FileSettings settings;
     DialogTalk talk(settings);
     const SystemClock clock;
+    program.tellThrough(talk);
     try {
         const QString file = FileArgument(program);
         const ApplicationFolder application = ApplicationFolder::ofProgram();
@@ -64,7 +65,7 @@ int Run(QApplication& program)
 
 int main(int argc, char** argv)
 {
-    QApplication program(argc, argv);
+    stemwright::Application program(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Stemwright"));
     QApplication::setApplicationVersion(QString::fromLatin1(stemwright::versionText));
     // What a decoder has to say about a flaw of a picture is no message to a user.

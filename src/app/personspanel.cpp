@@ -143,9 +143,11 @@ void PersonsPanel::show(const PersonMarks& marks, PointerTool tool)
 
 void PersonsPanel::edit(PictureEditing& editing)
 {
+    const std::optional<std::size_t> looked = selected();
     m_editing = &editing;
     m_entry.clear();
     refresh();
+    select(looked);
 }
 
 void PersonsPanel::refresh()

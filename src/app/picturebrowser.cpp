@@ -67,6 +67,8 @@ QTableView* MakeGrid(PictureTableModel& model)
     grid->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     grid->horizontalHeader()->setSectionsClickable(true);
     grid->horizontalHeader()->setStretchLastSection(true);
+    // Widths go by the first rows; a thousand of them, as is usual, take as long as all the rest of opening a file.
+    grid->horizontalHeader()->setResizeContentsPrecision(50);
     LetCopy(*grid);
     return grid;
 }
@@ -129,17 +131,17 @@ void PictureBrowser::select(int row)
 {
     const QModelIndex index = m_model->index(row, 0);
     dtgTOC->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    dtgTOC->scrollTo(index);
-    picTGallery->scrollTo(index);
+    // A view that is not shown would lay out all its items for this.
+    qobject_cast<QAbstractItemView*>(m_views->currentWidget())->scrollTo(index);
 }
 
-void PictureBrowser::setList(std::optional<PictureTable> table, Connection* connection, std::optional<int> wanted)
+void PictureBrowser::setList(std::optional<PictureTable> table, FamilyFile& file, std::optional<int> wanted)
 {
     {
         const QScopedValueRollback moving(m_moving, true);
         // Widths that the user has set stay as long as the columns are the same.
         const int columns = m_model->columnCount();
-        m_model->setTable(std::move(table), connection);
+        m_model->setTable(std::move(table), file);
         if (m_model->columnCount() != columns) {
             dtgTOC->resizeColumnsToContents();
         }
@@ -199,7 +201,7 @@ bool PictureBrowser::showThumbnails(bool thumbnails)
     const bool shows = thumbnails && fits;
     m_views->setCurrentWidget(shows ? static_cast<QWidget*>(picTGallery) : dtgTOC);
     if (currentIndex().isValid()) {
-        picTGallery->scrollTo(currentIndex());
+        qobject_cast<QAbstractItemView*>(m_views->currentWidget())->scrollTo(currentIndex());
     }
     return shows == thumbnails;
 }

@@ -23,7 +23,7 @@ public:
     explicit PictureBrowser(QWidget* parent);
 
     /// Replaces the list. `wanted` becomes current where the list has it, otherwise the first one.
-    void setList(std::optional<PictureTable> table, Connection* connection, std::optional<int> wanted);
+    void setList(std::optional<PictureTable> table, FamilyFile& file, std::optional<int> wanted);
 
     const std::optional<PictureTable>& table() const { return m_model->table(); }
 

@@ -17,11 +17,11 @@ constexpr int keptThumbnails = 1'000;
 
 PictureTableModel::PictureTableModel(QObject* parent) : QAbstractTableModel(parent), m_thumbnails(keptThumbnails) {}
 
-void PictureTableModel::setTable(std::optional<PictureTable> table, Connection* connection)
+void PictureTableModel::setTable(std::optional<PictureTable> table, FamilyFile& file)
 {
     beginResetModel();
     m_table = std::move(table);
-    m_connection = connection;
+    m_file = &file;
     m_thumbnails.clear();
     endResetModel();
 }
@@ -51,7 +51,8 @@ QVariant PictureTableModel::data(const QModelIndex& index, int role) const
     const auto row = static_cast<std::size_t>(index.row());
     switch (role) {
     case Qt::DisplayRole:
-        return m_table->shown(row, static_cast<std::size_t>(index.column()));
+        // The text of a date without a precision begins with a blank.
+        return m_table->shown(row, static_cast<std::size_t>(index.column())).trimmed();
     case thumbnailRole:
         return thumbnail(m_table->pictureId(row));
     default:
@@ -83,7 +84,7 @@ QPixmap PictureTableModel::thumbnail(int pictureId) const
     }
     QPixmap pixmap;
     try {
-        pixmap.loadFromData(StoredThumbnail(*m_connection, pictureId), "BMP");
+        pixmap.loadFromData(StoredThumbnail(m_file->connection(), pictureId), "BMP");
     } catch (const std::exception&) {
         // A thumbnail that cannot be read leaves its cell empty, as one that was never made does.
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "queries/picturetable.h"
+#include "store/file/familyfile.h"
 
 #include <QtCore/QAbstractTableModel>
 #include <QtCore/QCache>
@@ -23,8 +24,9 @@ public:
 
     explicit PictureTableModel(QObject* parent);
 
-    /// Replaces the list; no value for none. `connection` gives the thumbnails and must outlive the list.
-    void setTable(std::optional<PictureTable> table, Connection* connection);
+    /// Replaces the list; no value for none. Thumbnails come from the family file that is open when they are shown:
+    /// while another one is being opened, a list may for a moment outlive its file.
+    void setTable(std::optional<PictureTable> table, FamilyFile& file);
 
     const std::optional<PictureTable>& table() const { return m_table; }
 
@@ -42,7 +44,7 @@ private:
     QPixmap thumbnail(int pictureId) const;
 
     std::optional<PictureTable> m_table;
-    Connection* m_connection = nullptr;
+    FamilyFile* m_file = nullptr;
     mutable QCache<int, QPixmap> m_thumbnails;
 };
 

@@ -123,38 +123,38 @@ void RecordEditor::showNothing(const QString& text)
     setButtons();
 }
 
-void RecordEditor::open()
+bool RecordEditor::open(Connection& connection, const std::function<void(PictureEditing&)>& begin)
 {
-    m_form->edit(*m_editing, KnownPlaces(*m_connection));
-    m_persons->edit(*m_editing);
-    setButtons();
-}
-
-void RecordEditor::add(Connection& connection, std::optional<int> current, const QString& pictureFile)
-{
-    m_connection = &connection;
-    m_editing.emplace(connection, m_environment);
-    m_editing->AddPicRec(current);
-    m_view->showText(appmessages::NoPictureYet());
-    open();
-    if (!pictureFile.isEmpty()) {
-        choosePictureFile(pictureFile);
-    }
-}
-
-bool RecordEditor::edit(Connection& connection, int pictureId)
-{
-    m_connection = &connection;
     try {
+        const QStringList places = KnownPlaces(connection);
         m_editing.emplace(connection, m_environment);
-        m_editing->EditPicRec(pictureId);
-        open();
-        return true;
+        begin(*m_editing);
+        m_form->edit(*m_editing, places);
     } catch (const std::exception& exception) {
         m_editing.reset();
         m_environment.talk.tell(appmessages::CannotEdit(ReasonText(exception)));
         return false;
     }
+    m_persons->edit(*m_editing);
+    setButtons();
+    return true;
+}
+
+bool RecordEditor::add(Connection& connection, std::optional<int> current, const QString& pictureFile)
+{
+    if (!open(connection, [current](PictureEditing& editing) { editing.AddPicRec(current); })) {
+        return false;
+    }
+    m_view->showText(appmessages::NoPictureYet());
+    if (!pictureFile.isEmpty()) {
+        choosePictureFile(pictureFile);
+    }
+    return true;
+}
+
+bool RecordEditor::edit(Connection& connection, int pictureId)
+{
+    return open(connection, [pictureId](PictureEditing& editing) { editing.EditPicRec(pictureId); });
 }
 
 void RecordEditor::choosePicture()
@@ -221,7 +221,12 @@ void RecordEditor::cancel()
     if (!m_editing) {
         return;
     }
-    const std::optional<int> pictureId = m_editing->cancel();
+    std::optional<int> pictureId;
+    try {
+        pictureId = m_editing->cancel();
+    } catch (const std::exception&) {
+        // Whoever shows the record again meets the same failure, and tells it.
+    }
     showNothing({});
     Q_EMIT cancelled(pictureId.value_or(0));
 }

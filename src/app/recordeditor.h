@@ -34,9 +34,10 @@ public:
     /// Shows no record, and a text where the picture would be. What was being edited is gone.
     void showNothing(const QString& text);
 
-    /// Opens an empty record, or one with the picture of this file. `current` is the picture shown until now.
-    void add(Connection& connection, std::optional<int> current, const QString& pictureFile = {});
-    /// Opens a record. False when that fails, which the user was told.
+    /// Opens an empty record, or one with the picture of this file. `current` is the picture shown until now. False
+    /// when that fails, which the user was told; so does edit().
+    bool add(Connection& connection, std::optional<int> current, const QString& pictureFile = {});
+    /// Opens a record.
     bool edit(Connection& connection, int pictureId);
 
     bool isEditing() const { return m_editing.has_value(); }
@@ -56,7 +57,8 @@ Q_SIGNALS:
     void cancelled(int pictureId);
 
 private:
-    void open();
+    /// Opens the record with which `begin` starts the editing.
+    bool open(Connection& connection, const std::function<void(PictureEditing&)>& begin);
     void showChosenPicture();
     void choosePicture();
     void chooseDate();
@@ -64,7 +66,6 @@ private:
     void setButtons();
 
     Environment& m_environment;
-    Connection* m_connection = nullptr;
     std::optional<PictureEditing> m_editing;
     QSplitter* m_parts;
     RecordForm* m_form;

@@ -46,7 +46,7 @@ RecordForm::RecordForm(QWidget* parent)
       dcbPlace(new QComboBox), txtDateString(MakeLine("txtDateString")),
       cmdSelectDate(
           MakeButton("cmdSelectDate", QStringLiteral("&Select..."), QStringLiteral("Press to select picture date"))),
-      optNamesLeft(MakeOption("optNamesLeft", QStringLiteral("Le&ft of the Picture"))),
+      optNamesLeft(MakeOption("optNamesLeft", QStringLiteral("Left of the Pict&ure"))),
       optNamesAbove(MakeOption("optNamesAbove", QStringLiteral("Abo&ve the Picture")))
 {
     txtDescription->setObjectName(QStringLiteral("txtDescription"));
@@ -123,8 +123,8 @@ void RecordForm::setEditable(bool editable)
 {
     txtTitle->setReadOnly(!editable);
     txtDescription->setReadOnly(!editable);
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{cmdSelectPic, dcbPlace, cmdSelectDate, optNamesLeft, optNamesAbove}) {
+    dcbPlace->lineEdit()->setReadOnly(!editable);
+    for (QWidget* control : std::initializer_list<QWidget*>{cmdSelectPic, cmdSelectDate, optNamesLeft, optNamesAbove}) {
         control->setEnabled(editable);
     }
 }
@@ -132,6 +132,8 @@ void RecordForm::setEditable(bool editable)
 void RecordForm::show(const std::optional<PictureRecord>& record)
 {
     m_editing = nullptr;
+    // Without its list, the box of places is as readable as the other fields and offers nothing.
+    dcbPlace->clear();
     setFields(record.value_or(PictureRecord{}));
     setEditable(false);
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "album/gallery.h"
 #include "album/pointerdrag.h"
+#include "album/gallery.h"
 
 #include <gtest/gtest.h>
 
@@ -26,15 +26,12 @@ struct Drag {
 TEST(PointerDrag, EachOfTheNineDragsMovesItsOwnSides)
 {
     const QPointF way(10, 5);
-    const Drag drags[] = {{DragMode::Move, {130, 100}, {110, 85, 60, 40}},
-                          {DragMode::Left, {101, 100}, {110, 80, 50, 40}},
-                          {DragMode::TopLeft, {98, 79}, {110, 85, 50, 35}},
-                          {DragMode::Top, {130, 82}, {100, 85, 60, 35}},
-                          {DragMode::TopRight, {160, 80}, {100, 85, 70, 35}},
-                          {DragMode::Right, {163, 100}, {100, 80, 70, 40}},
-                          {DragMode::BottomRight, {158, 121}, {100, 80, 70, 45}},
-                          {DragMode::Bottom, {130, 120}, {100, 80, 60, 45}},
-                          {DragMode::BottomLeft, {100, 118}, {110, 80, 50, 45}}};
+    const Drag drags[] = {
+        {DragMode::Move, {130, 100}, {110, 85, 60, 40}},        {DragMode::Left, {101, 100}, {110, 80, 50, 40}},
+        {DragMode::TopLeft, {98, 79}, {110, 85, 50, 35}},       {DragMode::Top, {130, 82}, {100, 85, 60, 35}},
+        {DragMode::TopRight, {160, 80}, {100, 85, 70, 35}},     {DragMode::Right, {163, 100}, {100, 80, 70, 40}},
+        {DragMode::BottomRight, {158, 121}, {100, 80, 70, 45}}, {DragMode::Bottom, {130, 120}, {100, 80, 60, 45}},
+        {DragMode::BottomLeft, {100, 118}, {110, 80, 50, 45}}};
     for (const Drag& drag : drags) {
         const auto mode = DragModeAt(rectangle, drag.press, 5);
         ASSERT_TRUE(mode) << drag.press.x();

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 
-// Ends imports or publications at random moments and holds what they leave behind against what it may be: a family file
-// that `stemwright-cli check` passes and that holds the old or the new tree, and a site that the next publication makes
-// whole again. Status 0 when all of it held, 1 when not. CONTRIBUTING.md says how to run it at length.
+// Ends imports, changes of the album or publications at random moments and holds what they leave behind against what it
+// may be: a family file that `stemwright-cli check` passes and that holds all of the old or all of the new, and a site
+// that the next publication makes whole again. Status 0 when all of it held, 1 when not. CONTRIBUTING.md says how to
+// run it at length.
 
 #include "base/files.h"
 #include "cli/cliworld.h"
@@ -18,8 +19,11 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 #include <csignal>
 #include <iostream>
+#include <map>
 #include <random>
 #include <stdexcept>
 #include <thread>
@@ -81,7 +85,11 @@ public:
     explicit KillTest(const Options& options) : m_options(options), m_random(options.seed) {}
 
     void killImports();
+    /// A record is applied with another picture and all of its marks; or a picture goes with its record and marks.
+    void killEdits();
+    void killDeletions();
     void killPublications();
+    void killAlbums();
 
 private:
     void run(const QStringList& arguments) const
@@ -99,6 +107,13 @@ private:
         run({QStringLiteral("--yes"), QStringLiteral("import"), m_base, tree});
     }
 
+    /// The sample family is the base: its picture 8 has twelve marks.
+    void takeSample() { Copy(STEMWRIGHT_SAMPLE, m_base); }
+
+    /// Interrupts a command that changes the base by one action.
+    void killChange(const QStringList& arguments);
+    void killPublication();
+
     double secondsOf(const QStringList& arguments) const
     {
         QElapsedTimer timer;
@@ -111,10 +126,12 @@ private:
     /// was not, the time is shortened, since the machine may have been slower when it was measured.
     bool interrupt(const QStringList& arguments, double& seconds);
 
-    /// The fingerprint of a file that has to pass the check.
+    /// The fingerprint of a file that has to pass the check, without the moments at which its pictures were changed.
     QString soundFile(const QString& path) const
     {
         run({QStringLiteral("check"), path});
+        SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE)
+            .exec("UPDATE AlbumTOC SET ModificationDate = NULL");
         return Fingerprint(path);
     }
 
@@ -163,20 +180,38 @@ void KillTest::report(int inTime, const QString& more) const
 void KillTest::killImports()
 {
     makeBase(2'000);
-    const QString tree = m_world.write(QStringLiteral("new.ged"), Tree(20'000));
-    const QStringList import = {QStringLiteral("--yes"), QStringLiteral("import"), m_file, tree};
+    killChange({"--yes", "import", m_file, m_world.write("new.ged", Tree(20'000))});
+}
+
+void KillTest::killEdits()
+{
+    takeSample();
+    const QString other = m_world.path("other.jpg");
+    run({"picture", "extract", m_base, "21", other});
+    killChange({"--yes", "picture", "edit", m_file, "8", "--title", "New", "--marks", "arrow", "--image", other});
+}
+
+void KillTest::killDeletions()
+{
+    takeSample();
+    killChange({"--yes", "picture", "delete", m_file, "8"});
+}
+
+void KillTest::killChange(const QStringList& arguments)
+{
     Copy(m_base, m_file);
     const QString before = soundFile(m_file);
-    double seconds = secondsOf(import);
+    Copy(m_base, m_file);
+    double seconds = secondsOf(arguments);
     const QString after = soundFile(m_file);
     int inTime = 0;
     int old = 0;
     for (int number = 0; number < m_options.times; ++number) {
         Copy(m_base, m_file);
-        inTime += interrupt(import, seconds) ? 1 : 0;
+        inTime += interrupt(arguments, seconds) ? 1 : 0;
         const QString found = soundFile(m_file);
         if (found != before && found != after) {
-            throw Wrong{QStringLiteral("the file holds neither tree: %1, not %2 or %3").arg(found, before, after)};
+            throw Wrong{QStringLiteral("the file holds neither state: %1, not %2 or %3").arg(found, before, after)};
         }
         old += found == before ? 1 : 0;
         const QString backup = m_world.path(QStringLiteral("work.ffb"));
@@ -184,12 +219,23 @@ void KillTest::killImports()
             throw Wrong{QStringLiteral("the backup is not the old file")};
         }
     }
-    report(inTime, QStringLiteral("%1 old trees, %2 new ones").arg(old).arg(m_options.times - old));
+    report(inTime, QStringLiteral("%1 old states, %2 new ones").arg(old).arg(m_options.times - old));
 }
 
 void KillTest::killPublications()
 {
     makeBase(5'000);
+    killPublication();
+}
+
+void KillTest::killAlbums()
+{
+    takeSample();
+    killPublication();
+}
+
+void KillTest::killPublication()
+{
     Copy(m_base, m_file);
     run(m_publish);
     const QString before = soundFile(m_file);
@@ -199,7 +245,7 @@ void KillTest::killPublications()
     for (int number = 0; number < m_options.times; ++number) {
         inTime += interrupt(m_publish, seconds) ? 1 : 0;
         if (soundFile(m_file) != before) {
-            throw Wrong{QStringLiteral("the publication changed the family tree")};
+            throw Wrong{QStringLiteral("the publication changed the family file")};
         }
     }
     run(m_publish);
@@ -214,9 +260,14 @@ void KillTest::killPublications()
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
+    const std::map<std::string, void (KillTest::*)()> works = {{"import", &KillTest::killImports},
+                                                               {"edit", &KillTest::killEdits},
+                                                               {"delete", &KillTest::killDeletions},
+                                                               {"publish", &KillTest::killPublications},
+                                                               {"album", &KillTest::killAlbums}};
     Options options;
     CLI::App app("Ends the program at random moments and looks at what it leaves behind.");
-    app.add_option("WORK", options.work, "What to interrupt")->required()->check(CLI::IsMember({"import", "publish"}));
+    app.add_option("WORK", options.work, "What to interrupt")->required()->check(CLI::IsMember(works));
     app.add_option("--times", options.times, "How often")->capture_default_str()->check(CLI::PositiveNumber);
     app.add_option("--seed", options.seed, "Chooses the moments")->capture_default_str();
     app.add_option("--signal", options.signal, "How")
@@ -225,7 +276,7 @@ int main(int argc, char** argv)
     CLI11_PARSE(app, argc, argv);
     try {
         KillTest test(options);
-        options.work == "import" ? test.killImports() : test.killPublications();
+        (test.*works.at(options.work))();
     } catch (const std::exception& exception) {
         std::cerr << "killtest: " << exception.what() << std::endl;
         return 1;

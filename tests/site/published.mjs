@@ -20,9 +20,7 @@ export function publish({ gedcom, settings = {}, trees, items = ["Birth", "Marri
     const folder = fs.mkdtempSync(path.join(os.tmpdir(), "stemwright-published-"));
     const file = path.join(folder, "family.kvf");
     const site = path.join(folder, "site");
-    const run = (...words) => execFileSync(program, ["--yes", ...words], {
-        encoding: "utf8", stdio: ["ignore", "pipe", "pipe"], env: { ...process.env, XDG_CONFIG_HOME: path.join(folder, "settings") },
-    });
+    const run = runIn(folder);
     run("new", file);
     const text = gedcom.includes("\n") ? gedcom : fs.readFileSync(path.join(data, gedcom));
     fs.writeFileSync(path.join(folder, "tree.ged"), text);
@@ -38,6 +36,22 @@ export function publish({ gedcom, settings = {}, trees, items = ["Birth", "Marri
         run(...words.map((word) => (word === "FILE" ? file : word)));
     }
     run("publish", file, "--output", site);
+    return site;
+}
+
+function runIn(folder) {
+    return (...words) => execFileSync(program, ["--yes", ...words], {
+        encoding: "utf8", stdio: ["ignore", "pipe", "pipe"], env: { ...process.env, XDG_CONFIG_HOME: path.join(folder, "settings") },
+    });
+}
+
+// Publishes one of the sample family's sites in the same way.
+export function publishSample(setup) {
+    const folder = fs.mkdtempSync(path.join(os.tmpdir(), "stemwright-published-"));
+    const file = path.join(folder, "felinity.kvf");
+    const site = path.join(folder, "site");
+    fs.copyFileSync(path.join(path.dirname(program), "../share/stemwright/felinity.kvf"), file);
+    runIn(folder)("publish", file, "--setup", setup, "--output", site);
     return site;
 }
 

@@ -8,7 +8,7 @@ import fs from "node:fs";
 import path from "node:path";
 import { after, before, test } from "node:test";
 import { fileURLToPath, pathToFileURL } from "node:url";
-import { data, discard, filesOf, pagesOf, publish, wholeText } from "./published.mjs";
+import { data, discard, filesOf, pagesOf, publish, publishSample, wholeText } from "./published.mjs";
 import { launch, openSite, screens, showInCentre } from "./support.mjs";
 
 const oldBook = { PageStyle: 0 };
@@ -50,13 +50,14 @@ const kinds = {
     "living hidden": { gedcom: "living.ged", settings: { ...oldBook, PersPages: 1, HideLiving: 1, MaxPrivacyAge: 900 }, trees: [outline(1), collapsible(1)], album: livingAlbum },
     "living hidden, no personal pages": { gedcom: "living.ged", settings: { ...memories, PersPages: 0, HideLiving: 1, MaxPrivacyAge: 900 }, trees: [collapsible(1), outline(1)], album: livingAlbum },
     "living shown": { gedcom: "living.ged", settings: { ...oldBook, PersPages: 1, HideLiving: 0, MaxPrivacyAge: 900 }, trees: [outline(1), collapsible(1)], album: livingAlbum },
+    "the sample family's memories": { sample: "Memories of Whiskermoor", trees: [outline(1), collapsible(3), outline(5), collapsible(1)] },
 };
 const sites = {};
 let browser;
 
 before(async () => {
     for (const [kind, recipe] of Object.entries(kinds)) {
-        sites[kind] = publish(recipe);
+        sites[kind] = recipe.sample ? publishSample(recipe.sample) : publish(recipe);
     }
     browser = await launch();
 });
@@ -238,6 +239,15 @@ test("with living people hidden, nothing of them stands anywhere", () => {
         assert.deepEqual(filesOf(sites[kind]).filter((name) => /^(PersPage_|PicList|Thumbs_)(4|5|7|8|12|13|14)\D|^(Pic|PicPage|Thumb_)2\./.test(name)), []);
         assert.ok(["Josiah", "Susannah", "Ambrose", "Hester", "Silas", "Felix", "9 Jun 1920", "a friend", "PicPage3"].every((shown) => holds(text, shown)), kind);
     }
+});
+
+test("the sample family's memories name nobody who is alive", () => {
+    const cats = fs.readFileSync(new URL("../../samples/felinity.ged", import.meta.url), "utf8").split(/\n(?=0 )/).filter((record) => record.startsWith("0 @I"));
+    const [dead, living] = [true, false].map((wanted) => cats.filter((record) => /^1 DEAT/m.test(record) === wanted));
+    const names = living.map((record) => /^1 NAME ([^/\n]*\S)/m.exec(record)[1]).filter((name) => name.length > 4 && !dead.some((record) => record.includes(name)));
+    const text = wholeText(sites["the sample family's memories"]);
+    assert.ok(names.length > 20 && holds(text, "Augustus"));
+    assert.deepEqual(names.filter((name) => holds(text, name)), []);
 });
 
 test("with living people shown, the search above would find them", () => {

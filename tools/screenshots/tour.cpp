@@ -146,7 +146,7 @@ void Tour::people()
     m_camera.inside(
         QStringLiteral("frmIndex4Addr"), [this] { trigger("mnuContEdit"); },
         [this, type](QWidget& window) {
-            control<QLineEdit>(window, "txtName").setText(QStringLiteral("Whiskerton, Nell"));
+            control<QLineEdit>(window, "txtName").setText(QStringLiteral("Whiskerton, Alexander"));
             m_camera.takeModal(QStringLiteral("frmContactInfo"), [this, &window] { press(window, "cmdContactInfo"); });
             type(window);
             m_camera.take(window, QStringLiteral("frmindex4addr"));

@@ -67,6 +67,17 @@ int OpenFlags(OpenMode mode)
     return SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX | create;
 }
 
+/// The engine itself looks only when it begins a journal, which it keeps as long as it holds the file.
+void RequireInPlace(sqlite3* database)
+{
+    int moved = 0;
+    if (sqlite3_file_control(database, nullptr, SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK && moved != 0) {
+        throw Error(
+            QStringLiteral("The family file is no longer in its place: it was moved or deleted, or its disk was "
+                           "taken away. Put it back, or save it under another name."));
+    }
+}
+
 } // namespace
 
 void Statement::Finalizer::operator()(sqlite3_stmt* statement) const
@@ -298,6 +309,7 @@ bool Connection::inTransaction() const
 
 Transaction::Transaction(Connection& connection) : m_connection(connection), m_nested(connection.inTransaction())
 {
+    RequireInPlace(connection.engine().getHandle());
     m_connection.execute(m_nested ? QStringLiteral("SAVEPOINT inner_action") : QStringLiteral("BEGIN IMMEDIATE"));
 }
 

@@ -108,7 +108,8 @@ private:
 };
 
 /// One user action. What was done since it began is undone when it goes out of scope without commit(). A transaction
-/// inside another becomes a part of it and is undone alone.
+/// inside another becomes a part of it and is undone alone. Throws Error when the file is no longer where it was
+/// opened: what is written then would be gone with the program.
 class Transaction
 {
 public:
