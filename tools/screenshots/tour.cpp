@@ -27,7 +27,7 @@ namespace
 /// Where the pictures say that the files are: the folders of the machine that takes them are nobody's business.
 QString ShownPath(const char* file)
 {
-    return QStringLiteral("/home/molly/Documents/") + QLatin1StringView(file);
+    return QStringLiteral("/media/molly/Album/") + QLatin1StringView(file);
 }
 
 /// The row of a list whose first cell has this text; the first when none has.
