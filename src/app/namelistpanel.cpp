@@ -176,9 +176,9 @@ void NameListPanel::showCurrent()
 {
     const QScopedValueRollback following(m_following, true);
     const QModelIndex index = m_model->index(static_cast<int>(m_index.positionOf(m_search.currentRow())), 0);
-    m_grid->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     // A name that was not in sight comes with its neighbours.
     const bool inSight = m_grid->viewport()->rect().contains(m_grid->visualRect(index));
+    m_grid->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     m_grid->scrollTo(index, inSight ? QAbstractItemView::EnsureVisible : QAbstractItemView::PositionAtCenter);
     setButtons();
 }

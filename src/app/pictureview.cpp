@@ -340,7 +340,7 @@ void PictureView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     if (!m_picture) {
-        painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+        painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(rect().adjusted(margin, margin, -margin, -margin), Qt::AlignCenter | Qt::TextWordWrap, m_text);
         return;
     }
