@@ -22,7 +22,8 @@ run(${PROGRAM} --yes publish ${FOLDER}/family.kvf --output ${FOLDER}/site)
 # A copy, since whoever installed the program need not be who runs it.
 file(COPY ${FOLDER}/share/stemwright/felinity.kvf DESTINATION ${FOLDER})
 run(${PROGRAM} --yes publish ${FOLDER}/felinity.kvf --output ${FOLDER}/cats)
-foreach(FILE IN ITEMS site/index.html cats/ListOfPics.html site/graphics/site.css share/man/man1/stemwright-cli.1)
+foreach(FILE IN ITEMS site/index.html cats/ListOfPics.html site/graphics/site.css share/man/man1/stemwright-cli.1
+        share/stemwright/manual/frmalbum.html)
   if(NOT EXISTS ${FOLDER}/${FILE})
     message(FATAL_ERROR "${FILE} is not there")
   endif()

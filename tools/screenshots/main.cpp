@@ -106,7 +106,8 @@ int main(int argc, char** argv)
         }
         const Wishes wishes = WishesOf(arguments);
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
+            // A screen of a common size: message boxes are as wide as theirs allows.
+            qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" STEMWRIGHT_SCREEN);
         }
         qputenv("QT_SCALE_FACTOR", wishes.scale.toUtf8());
         QApplication program(argc, argv);
