@@ -184,9 +184,7 @@ void frmAlbum::runQuery(const QString& name)
 /// Runs the current query anew; `wanted` is the picture to go to.
 void frmAlbum::refill(std::optional<int> wanted)
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
     std::optional<PictureTable> table = OpenPictureList(m_file.connection(), m_environment, m_queryName);
-    QApplication::restoreOverrideCursor();
     if (table) {
         m_queryName = table->queryName();
     }
