@@ -105,7 +105,7 @@ TEST_F(WindowsTest, QueriesAreMadeRenamedDeletedAndRun)
         Press(list, "cmdEdit");
         Press(list, "cmdRun");
     });
-    const QStringList late = {"2| 1998|Picture 2|", "3| 1997|Picture 3|"};
+    const QStringList late = {"2|1998|Picture 2|", "3|1997|Picture 3|"};
     EXPECT_EQ(Shown(window(), "dtgTOC"), late);
     EXPECT_EQ(world.settings.value(setting::picListQueries, setting::defaultPicListQuery), "Late");
     Choose(window(), "cboQuery", "Initial");
