@@ -24,6 +24,7 @@ struct Wishes {
     QString family;
     QString scale = QStringLiteral("1");
     QSize size{1024, 700};
+    int points = 9;
     bool dark = false;
 };
 
@@ -37,15 +38,18 @@ Wishes WishesOf(const QStringList& arguments)
                                    QStringLiteral("FACTOR"), QStringLiteral("1"));
     const QCommandLineOption size(QStringLiteral("size"), QStringLiteral("The main window's size"),
                                   QStringLiteral("WIDTHxHEIGHT"), QStringLiteral("1024x700"));
+    const QCommandLineOption points(QStringLiteral("font-size"), QStringLiteral("The size of letters"),
+                                    QStringLiteral("POINTS"), QStringLiteral("9"));
     const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Light text on dark ground"));
     QCommandLineParser parser;
-    parser.addOptions({output, family, scale, size, dark});
+    parser.addOptions({output, family, scale, size, points, dark});
     if (!parser.parse(arguments)) {
         throw Error(parser.errorText());
     }
     const QStringList sides = parser.value(size).split(u'x');
-    return {parser.value(output), parser.value(family), parser.value(scale),
-            QSize(sides.value(0).toInt(), sides.value(1).toInt()), parser.isSet(dark)};
+    return {parser.value(output),         parser.value(family),
+            parser.value(scale),          QSize(sides.value(0).toInt(), sides.value(1).toInt()),
+            parser.value(points).toInt(), parser.isSet(dark)};
 }
 
 QPalette DarkPalette()
@@ -113,7 +117,7 @@ int main(int argc, char** argv)
         QApplication program(argc, argv);
         QApplication::setApplicationName(QStringLiteral("Stemwright"));
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+        QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), wishes.points));
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
         if (wishes.dark) {
             QApplication::setPalette(DarkPalette());
