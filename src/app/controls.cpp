@@ -22,6 +22,8 @@ namespace
 {
 
 constexpr int longestPaste = 10'000'000;
+/// The height of a line of letters for which sizes in pixels are meant.
+constexpr int usualLineHeight = 14;
 
 /// Notes a window's place whenever it is hidden, which closing it does, too.
 class PlaceKeeper : public QObject
@@ -105,6 +107,16 @@ QDialogButtonBox* MakeOkCancel(QDialog& window)
     QObject::connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
     QObject::connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
     return buttons;
+}
+
+int ForLetters(const QWidget& window, int pixels)
+{
+    return pixels * std::max(window.fontMetrics().height(), usualLineHeight) / usualLineHeight;
+}
+
+void ResizeForLetters(QWidget& window, int width, int height)
+{
+    window.resize(ForLetters(window, width), ForLetters(window, height));
 }
 
 void LetCopy(QAbstractItemView& view)

@@ -31,6 +31,12 @@ QLineEdit* MakeLine(const char* name, const QString& toolTip = {});
 /// OK (`cmdOK`) and Cancel (`cmdCancel`) that accept and reject the window.
 QDialogButtonBox* MakeOkCancel(QDialog& window);
 
+/// A length in pixels, given for letters of the usual size, for those of the window.
+int ForLetters(const QWidget& window, int pixels);
+
+/// Gives a window the size that it has at first, which grows with the user's letters.
+void ResizeForLetters(QWidget& window, int width, int height);
+
 /// Makes Ctrl+C copy the selected rows of a list or grid as lines of text with tabs between the columns.
 void LetCopy(QAbstractItemView& view);
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/dialogtalk.h"
 
+#include "app/controls.h"
 #include "app/progresswindow.h"
 
 #include <QtCore/QDir>
@@ -158,7 +159,7 @@ std::optional<QString> DialogTalk::input(const InputRequest& request)
     dialog.setLabelText(request.prompt);
     dialog.setTextValue(request.text);
     // Wide enough for its title and for what is typed, a name mostly.
-    dialog.resize(inputWidth, dialog.sizeHint().height());
+    dialog.resize(ForLetters(dialog, inputWidth), dialog.sizeHint().height());
     if (dialog.exec() != QDialog::Accepted) {
         return std::nullopt;
     }

@@ -57,7 +57,7 @@ frmSplash::frmSplash(const ApplicationFolder& application) : QWidget(nullptr, Qt
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(24, 24, 24, 24);
     layout->addLayout(Masthead(application));
-    setFixedWidth(splashWidth);
+    setFixedWidth(ForLetters(*this, splashWidth));
 }
 
 void frmSplash::finish()
@@ -92,7 +92,9 @@ void ShowAbout(const ApplicationFolder& application, QWidget& parent)
     layout->addLayout(Masthead(application));
     layout->addWidget(credits);
     layout->addWidget(buttons);
-    window.setFixedWidth(splashWidth);
+    window.setFixedWidth(ForLetters(window, splashWidth));
+    // Lines that are wrapped need a height that only a width can tell.
+    window.setFixedHeight(layout->totalHeightForWidth(window.width()));
     window.exec();
 }
 

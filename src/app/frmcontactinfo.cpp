@@ -28,7 +28,7 @@ public:
     {
         setObjectName(QStringLiteral("frmContactInfo"));
         setWindowTitle(QStringLiteral("Contact Info"));
-        resize(480, 360);
+        ResizeForLetters(*this, 480, 360);
         txtEmail1->setText(m_editing.record().email1);
         txtEmail2->setText(m_editing.record().email2);
         txtWebPage->setText(m_editing.record().webPage);

@@ -39,7 +39,7 @@ public:
     {
         setObjectName(QStringLiteral("frmExportTableAsText"));
         setWindowTitle(QStringLiteral("Export Table to Text File"));
-        resize(560, 240);
+        ResizeForLetters(*this, 560, 240);
         txtOutputFilename->setText(
             QDir::toNativeSeparators(ProposedExportPath(QDir::currentPath(), table.queryName())));
         cboDelimiter->setObjectName(QStringLiteral("cboDelimiter"));

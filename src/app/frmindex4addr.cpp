@@ -18,7 +18,7 @@ void ShowListOfNames(NameIndex& index, Connection& connection, Environment& envi
     QDialog window(parent);
     window.setObjectName(QStringLiteral("frmIndex4Addr"));
     window.setWindowTitle(QStringLiteral("List of Names"));
-    window.resize(620, 480);
+    ResizeForLetters(window, 620, 480);
     auto* names = new NameListPanel(index, "dtgNames",
                                     {{NameColumn::Name, QStringLiteral("Name")},
                                      {NameColumn::BirthDate, QStringLiteral("Birth Date")},

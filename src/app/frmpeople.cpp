@@ -17,7 +17,7 @@ std::optional<ChosenPerson> ChoosePerson(NameIndex& index, Environment& environm
     QDialog window(parent);
     window.setObjectName(QStringLiteral("frmPeople"));
     window.setWindowTitle(QStringLiteral("Index of Names"));
-    window.resize(680, 480);
+    ResizeForLetters(window, 680, 480);
     auto* names = new NameListPanel(index, "dtgPeople",
                                     {{NameColumn::PersonId, QStringLiteral("Person ID")},
                                      {NameColumn::Name, QStringLiteral("Name")},

@@ -40,7 +40,7 @@ void Show(const FileProperties& properties, Settings& settings, QWidget* parent)
     QDialog window(parent);
     window.setObjectName(QStringLiteral("frmProperties"));
     window.setWindowTitle(QStringLiteral("Properties"));
-    window.resize(480, 300);
+    ResizeForLetters(window, 480, 300);
     const QLocale locale;
     const auto number = [&locale](qint64 value) { return locale.toString(value); };
     auto* form = new QFormLayout;

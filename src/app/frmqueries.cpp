@@ -29,7 +29,7 @@ public:
     {
         setObjectName(QStringLiteral("frmQueries"));
         setWindowTitle(QStringLiteral("Picture List Queries"));
-        resize(460, 380);
+        ResizeForLetters(*this, 460, 380);
         layOut();
         fill(current.isEmpty() ? m_manager.selected() : current);
         RememberPlace(*this, environment.settings);

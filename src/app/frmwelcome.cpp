@@ -36,7 +36,7 @@ WelcomeChoice AskAtWelcome(QWidget& parent)
     window.setWindowTitle(QStringLiteral("Welcome"));
     QLabel* text = MakeLabel("lblWelcome", appmessages::Welcome());
     text->setWordWrap(true);
-    text->setMinimumWidth(textWidth);
+    text->setMinimumWidth(ForLetters(window, textWidth));
     WelcomeChoice chosen = WelcomeChoice::None;
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();

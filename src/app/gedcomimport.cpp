@@ -22,7 +22,7 @@ void ShowReport(const ImportReport& report, Settings& settings, QWidget& parent)
     QDialog window(&parent);
     window.setObjectName(QStringLiteral("frmImportReport"));
     window.setWindowTitle(QStringLiteral("GEDCOM Import"));
-    window.resize(560, 340);
+    ResizeForLetters(window, 560, 340);
     auto* text = new QPlainTextEdit(ReportText(report));
     text->setObjectName(QStringLiteral("txtReport"));
     text->setReadOnly(true);

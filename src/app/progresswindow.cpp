@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/progresswindow.h"
 
+#include "app/controls.h"
+
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
@@ -49,7 +51,7 @@ public:
         layout->addWidget(caption);
         layout->addWidget(bar);
         layout->addLayout(buttons);
-        setFixedWidth(windowWidth);
+        setFixedWidth(ForLetters(*this, windowWidth));
     }
 
     void reject() override

@@ -17,6 +17,7 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSplitter>
 
 namespace stemwright
@@ -25,17 +26,30 @@ namespace stemwright
 namespace
 {
 
-/// A column that scrolls where a window is too low for it.
-QWidget* Scrolling(QWidget* content)
+/// A column that scrolls where a window is too low for it, and is never narrower than what it holds.
+class Column : public QScrollArea
 {
-    auto* area = new QScrollArea;
-    area->setWidget(content);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setMinimumWidth(content->minimumSizeHint().width() + 16);
-    return area;
-}
+public:
+    explicit Column(QWidget* content)
+    {
+        setWidget(content);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        fit();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+            fit();
+        }
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+private:
+    void fit() { setMinimumWidth(widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width()); }
+};
 
 } // namespace
 
@@ -51,7 +65,7 @@ RecordEditor::RecordEditor(Environment& environment, QWidget* parent)
     auto* record = new QWidget;
     auto* recordLayout = new QVBoxLayout(record);
     recordLayout->setContentsMargins(0, 0, 0, 0);
-    recordLayout->addWidget(Scrolling(m_form), 1);
+    recordLayout->addWidget(new Column(m_form), 1);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(cmdApply);
     buttons->addWidget(cmdCancel);
@@ -60,7 +74,7 @@ RecordEditor::RecordEditor(Environment& environment, QWidget* parent)
 
     m_parts->setObjectName(QStringLiteral("splRecord"));
     m_parts->addWidget(record);
-    m_parts->addWidget(Scrolling(m_persons));
+    m_parts->addWidget(new Column(m_persons));
     m_parts->addWidget(m_view);
     m_parts->setStretchFactor(2, 1);
     m_parts->setChildrenCollapsible(false);

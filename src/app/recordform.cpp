@@ -53,6 +53,8 @@ RecordForm::RecordForm(QWidget* parent)
     txtDescription->setTabChangesFocus(true);
     txtDescription->setMinimumHeight(3 * txtDescription->fontMetrics().lineSpacing());
     dcbPlace->setObjectName(QStringLiteral("dcbPlace"));
+    // A long name is cut short rather than pushing the button out of sight; its tip has all of it.
+    lblPicFilename->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     dcbPlace->setEditable(true);
     dcbPlace->setInsertPolicy(QComboBox::NoInsert);
     dcbPlace->setToolTip(QStringLiteral("Place where the picture was taken"));
