@@ -60,11 +60,11 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     const Maker make(window, icons);
     mnuNew = make("mnuNew", Caption("&New Family File..."), QKeySequence::New, Caption("new"));
     mnuOpen = make("mnuOpen", Caption("&Open Family File..."), QKeySequence::Open, Caption("open"));
-    mnuSaveAs = make("mnuSaveAs", Caption("Save Family File &As..."), QKeySequence::SaveAs);
+    mnuSaveAs = make("mnuSaveAs", Caption("Save Family File &As..."), Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     mnuExportTabletoText = make("mnuExportTabletoText", Caption("Expor&t Table to Text File..."));
     mnuImportGedcom = make("mnuImportGedcom", Caption("Import &GEDCOM file..."));
     mnuProperties = make("mnuProperties", Caption("Propert&ies"));
-    mnuExit = make("mnuExit", Caption("E&xit"), QKeySequence::Quit);
+    mnuExit = make("mnuExit", Caption("E&xit"), Qt::CTRL | Qt::Key_Q);
     mnuContEdit = make("mnuContEdit", Caption("&Contact Info..."));
     mnuAddPicRec = make("mnuAddPicRec", Caption("&Add Picture Record"), Qt::Key_Insert, Caption("addpicrec"));
     mnuEditPicRec = make("mnuEditPicRec", Caption("&Edit Picture Record"), Qt::Key_F2, Caption("editpicrec"));
