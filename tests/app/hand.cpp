@@ -60,7 +60,10 @@ void Press(QObject& window, const char* name)
 void Type(QWidget& window, const char* name, const QString& text)
 {
     auto& control = Find<QWidget>(window, name);
+    // A message that has just gone may still have the focus, and without it nothing is finished by a Tab.
+    window.activateWindow();
     control.setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&control] { return control.hasFocus(); })) << name;
     QTest::keyClick(&control, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&control, Qt::Key_Delete);
     QTest::keyClicks(&control, text);
