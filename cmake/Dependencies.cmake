@@ -1,7 +1,9 @@
 # SPDX-FileCopyrightText: The Stemwright authors
 # SPDX-License-Identifier: MIT
 # Everything that Stemwright builds on; all of it comes from the distribution.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets WebEngineWidgets)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(MDB REQUIRED IMPORTED_TARGET libmdb)
 find_package(ICU REQUIRED COMPONENTS i18n uc)
 find_package(SQLiteCpp REQUIRED)
 find_package(SQLite3 REQUIRED)
