@@ -25,7 +25,7 @@ void AddNumber(CLI::App& command, TreeOptions& options)
 
 CLI::Option* AddTreeOptions(CLI::App& command, TreeOptions& options)
 {
-    command.add_option("--display", options.display, "Outline, Descendant Tree or CollapsiTree");
+    command.add_option("--display", options.display, "Outline, Descendant Tree, CollapsiTree or Ancestor Tree");
     command.add_option("--icon", options.icon, "The number of the tree's icon, 1 and up");
     return command.add_option("--head", options.head, "The number of the individual at the head of the tree");
 }

@@ -13,6 +13,9 @@ template <class Visit>
 void ForEachAncestor(const TreeWalk& walk, EntryNumber entry, Visit visit)
 {
     const std::vector<TreeEntry>& entries = walk.entries();
+    if (entries[entry].kind == EntryKind::Ancestor) {
+        return;
+    }
     const bool isSpouse = entries[entry].kind == EntryKind::Spouse;
     for (EntryNumber above = entries[entry].reachedFrom; above != noEntry; above = entries[above].reachedFrom) {
         if (!visit(entries[above].person) || isSpouse) {

@@ -8,7 +8,8 @@ namespace stemwright
 {
 
 /// The individuals through whom the walk reached an entry, from the nearest: element 0 is the parent (or, for a spouse,
-/// the partner), the last one is the tree head. The head's own chain is empty.
+/// the partner), the last one is the tree head. The head's own chain is empty, and so are those of a tree of ancestors,
+/// where nobody descends from the head.
 using AncestorChain = std::vector<TreePosition>;
 
 /// The chain of an entry, no longer than the nearest few hundred, so that pages stay readable and do not grow with the

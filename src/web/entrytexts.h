@@ -8,10 +8,11 @@
 namespace stemwright
 {
 
-/// Appends the items that follow the name: those that the setup shows in trees, in their order, without the private
-/// ones of protected persons. A spouse's line has the family's items as well, a child's those of the link to its
-/// parents.
-void AppendEntryItems(std::string& page, const SiteRun& run, const TreeWalk& walk, const TreeEntry& entry);
+/// Appends the items that follow the name, each after `separator`: those that the setup shows in trees, in their order,
+/// without the private ones of protected persons. A spouse's line has the family's items as well, a child's those of
+/// the link to its parents. Among ancestors the father, or else the mother, has the items of the parents' family.
+void AppendEntryItems(std::string& page, const SiteRun& run, const TreeWalk& walk, const TreeEntry& entry,
+                      std::string_view separator = " ");
 
 /// The entry's name, plain UTF-8.
 std::string EntryName(const SiteRun& run, const TreeEntry& entry);
@@ -19,8 +20,8 @@ std::string EntryName(const SiteRun& run, const TreeEntry& entry);
 /// Appends the entry's name as element text.
 void AppendEntryName(std::string& page, const SiteRun& run, const TreeEntry& entry);
 
-/// "Husband", "Wife", "Partner" or "Friend": what the spouse of a family is to the individual.
-std::string_view SpouseWord(const SiteRun& run, TreePosition family, TreePosition individual);
+/// "2nd Wife", "3rd Partner": what the second or a later spouse is to the individual.
+std::string SpouseTitle(const SiteRun& run, const TreeWalk& walk, const TreeEntry& spouse);
 
 /// Appends " <A HREF=...>(Duplicate: ...)</A>", which leads to the main entry of the same person.
 void AppendDuplicateLink(std::string& page, const SiteRun& run, const PublishedTree& tree, const TreeEntry& entry);

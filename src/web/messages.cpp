@@ -182,25 +182,11 @@ Message MoreMissingFamilyRecords(std::size_t count)
             QStringLiteral("%1 more family records could not be found.").arg(count), Icon::Warning};
 }
 
-Message DisplayNotAvailable(const QString& display, const QString& headName)
-{
-    return {QStringLiteral("Display not available"),
-            QStringLiteral("The tree of %1 is left out of the site: this release cannot draw the display \"%2\".\n"
-                           "Please choose \"Outline\" or \"CollapsiTree\" for it.")
-                .arg(headName, display),
-            Icon::Warning};
-}
-
 QString NoSuchTreeHead(const QString& headName, int id)
 {
     return QStringLiteral("The tree head %1 (number %2) is not in the family tree. Please choose another tree head.")
         .arg(headName)
         .arg(id);
-}
-
-QString NothingToBuild()
-{
-    return QStringLiteral("None of the setup's trees can be built.");
 }
 
 Message TextsLeftOut(const std::vector<int>& pictures)

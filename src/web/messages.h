@@ -40,9 +40,7 @@ QString CannotCreateGraphicsFolder(const QString& folder);
 Message FamilylessAncestor(const QString& name);
 Message MissingFamilyRecord(int familyId);
 Message MoreMissingFamilyRecords(std::size_t count);
-Message DisplayNotAvailable(const QString& display, const QString& headName);
 QString NoSuchTreeHead(const QString& headName, int id);
-QString NothingToBuild();
 
 // The pictures, by their numbers.
 Message TextsLeftOut(const std::vector<int>& pictures);

@@ -7,6 +7,7 @@
 #include "web/pagefile.h"
 #include "web/picturelinks.h"
 #include "web/treelinks.h"
+#include "web/treepages.h"
 
 #include <deque>
 
@@ -17,10 +18,6 @@ namespace
 {
 
 constexpr int dotsPerLevel = 4;
-
-/// The path of pages above a page is cut to its end where it is longer than anybody could read, so that the sizes of
-/// pages do not grow with the square of a very long line of descent.
-constexpr std::size_t longestPath = 1000;
 
 class OutlineWriter
 {
@@ -83,66 +80,13 @@ private:
         Page& opened = m_pages[m_open++];
         opened.owner = owner;
         opened.file.begin(m_run.file(TreePageName(m_tree, idOf(entryAt(owner)))));
-        writeHead(owner);
+        WriteTreePageHead(opened.file, m_run, m_tree, owner);
     }
 
     void closeDownTo(std::size_t keep)
     {
         for (; m_open > keep; --m_open) {
-            PageFile& file = m_pages[m_open - 1].file;
-            file.line("</FONT>");
-            file.line("</BODY>");
-            file.bytes().append("</HTML>");
-            file.end();
-        }
-    }
-
-    void writeHead(EntryNumber owner)
-    {
-        PageFile& file = m_pages[m_open - 1].file;
-        std::string& bytes = file.bytes();
-        const std::string name = EntryName(m_run, entryAt(owner));
-        file.line("<HTML>");
-        file.line("<HEAD>");
-        bytes.append("<TITLE>Descendants of ");
-        AppendText(bytes, name);
-        file.line("</TITLE>");
-        file.line("<META HTTP_EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=iso-8859-1\">");
-        file.line("<SCRIPT LANGUAGE=\"JavaScript\" SRC=\"sniffer.js\"></SCRIPT>");
-        file.line("<SCRIPT LANGUAGE=\"JavaScript\">");
-        file.line("<!-- ;");
-        file.line("\tfunction init()");
-        file.line("\t{");
-        file.line("\t\tif (is_ie5up || is_gecko)");
-        file.line("\t\t{");
-        bytes.append("\t\t\tparent.frames[\"frmTopLeft\"].document.getElementById(\"DocRoots\").innerHTML = \"");
-        appendRoots();
-        file.line("\";");
-        bytes.append("\t\t\tparent.frames[\"frmTopLeft\"].document.getElementById(\"DocOwner\").innerHTML = "
-                     "\"Descendants of ");
-        AppendScriptText(bytes, name, ScriptQuotes::Concatenated);
-        file.line("\";");
-        bytes.append("\t\t\tparent.frames[\"frmTopLeft\"].document.getElementById(\"Icon\").innerHTML = \"<IMG SRC='");
-        bytes.append(TreeIcon(m_tree.definition));
-        file.line("'>\";");
-        file.line("\t\t}");
-        file.line("\t}");
-        file.line("// end hide -->");
-        file.line("</SCRIPT>");
-        file.line("</HEAD>");
-        file.line("<BODY BGCOLOR=\"#FFFFFF\" onLoad=\"init()\" BACKGROUND=\"graphics/center.gif\">");
-        file.line("<BASEFONT FACE=\"Times New Roman\">");
-    }
-
-    /// The path from the head's page to the page above the current one.
-    void appendRoots()
-    {
-        const std::size_t above = m_open - 1;
-        for (std::size_t level = above - std::min(above, longestPath); level < above; ++level) {
-            const TreeEntry& owner = entryAt(m_pages[level].owner);
-            page().append("<A HREF='").append(TreePageName(m_tree, idOf(owner))).append("'>");
-            AppendScriptText(page(), EntryName(m_run, owner), ScriptQuotes::Concatenated);
-            page().append("</A>->");
+            EndTreePage(m_pages[m_open - 1].file);
         }
     }
 
@@ -189,9 +133,7 @@ private:
         const TreeEntry& individual = entryAt(entry.reachedFrom);
         page().append("<BR><NOBR><FONT SIZE=\"-1\">");
         appendDots(entry);
-        page().append("<B>").append(std::to_string(entry.families));
-        page().append(entry.families == 2 ? "nd " : entry.families == 3 ? "rd " : "th ");
-        page().append(SpouseWord(m_run, entry.family, individual.person)).append(" of ");
+        page().append("<B>").append(SpouseTitle(m_run, m_tree.walk, entry)).append(" of ");
         AppendEntryName(page(), m_run, individual);
         page().append("</B>");
         endLine();

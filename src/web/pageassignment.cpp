@@ -7,7 +7,7 @@
 namespace stemwright
 {
 
-/// The walk itself: a stack of individuals whose families are being gone through.
+/// What both walks do with an entry.
 class TreeWalk::Walker
 {
 public:
@@ -16,15 +16,87 @@ public:
     {
     }
 
+protected:
+    const TreeEntry& entryAt(EntryNumber number) const { return m_walk.m_entries[number]; }
+
+    /// Whether the walk may go on from an entry to the next generation.
+    bool goesOnFrom(const TreeEntry& entry) const
+    {
+        return !entry.isDuplicate && entry.generation < m_limits.totalGenerations;
+    }
+
+    EntryNumber add(const TreeEntry& entry)
+    {
+        m_walk.m_entries.push_back(entry);
+        return static_cast<EntryNumber>(m_walk.m_entries.size() - 1);
+    }
+
+    /// Adds an entry that is the person's main one if it is the first.
+    EntryNumber enter(TreeEntry entry)
+    {
+        EntryNumber& main = m_walk.m_mainEntry[entry.person];
+        entry.isDuplicate = main != noEntry;
+        const EntryNumber number = add(entry);
+        if (!entry.isDuplicate) {
+            main = number;
+        }
+        return number;
+    }
+
+    /// Enters a person of the generation after the one of `from`, on the same page or on a new one.
+    EntryNumber enterNext(EntryNumber from, TreePosition family, TreePosition person, EntryKind kind)
+    {
+        const TreeEntry& above = entryAt(from);
+        const bool staysOnPage = above.generation % m_limits.generationsOnPage != 0 || m_walk.opensPage(from);
+        // A duplicate is one line; a page of its own would take the name of the page that the main entry may own.
+        const bool isDuplicate = m_walk.m_mainEntry[person] != noEntry;
+        const auto ownNumber = static_cast<EntryNumber>(m_walk.m_entries.size());
+        return enter({.person = person,
+                      .family = family,
+                      .reachedFrom = from,
+                      .page = staysOnPage || isDuplicate ? above.page : ownNumber,
+                      .generation = above.generation + 1,
+                      .kind = kind});
+    }
+
+    /// Whether the family has a record; one that has none is noted.
+    bool hasRecord(TreePosition family)
+    {
+        if (m_tree.hasRecord(family)) {
+            return true;
+        }
+        if (m_missing.insert(family).second) {
+            m_walk.m_missingFamilies.push_back(family);
+        }
+        return false;
+    }
+
+    TreeWalk& m_walk;
+    const FamilyTree& m_tree;
+    const Privacy& m_privacy;
+    const WalkLimits& m_limits;
+
+private:
+    std::unordered_set<TreePosition> m_missing;
+};
+
+/// A stack of individuals whose families are being gone through.
+class TreeWalk::DescendantWalker : Walker
+{
+public:
+    using Walker::Walker;
+
     void run(TreePosition head)
     {
-        enter({.person = head, .page = 0});
+        open(enter({.person = head, .page = 0}));
         while (!m_open.empty()) {
             Visit& visit = m_open.back();
             if (!visit.children.empty()) {
                 const TreePosition child = visit.children.front();
                 visit.children = visit.children.subspan(1);
-                visitChild(visit, child);
+                if (!m_privacy.isLeftOut(child)) {
+                    open(enterNext(visit.entry, visit.family, child, EntryKind::Individual));
+                }
             } else if (!visit.families.empty()) {
                 const TreePosition family = visit.families.front();
                 visit.families = visit.families.subspan(1);
@@ -44,27 +116,14 @@ private:
         std::span<const TreePosition> children;
     };
 
-    EntryNumber add(const TreeEntry& entry)
+    void open(EntryNumber entry)
     {
-        m_walk.m_entries.push_back(entry);
-        return static_cast<EntryNumber>(m_walk.m_entries.size() - 1);
-    }
-
-    void enter(TreeEntry entry)
-    {
-        EntryNumber& main = m_walk.m_mainEntry[entry.person];
-        entry.isDuplicate = main != noEntry;
-        const EntryNumber number = add(entry);
-        if (!entry.isDuplicate) {
-            main = number;
-        }
-        m_open.push_back({number, nowhere, m_tree.spouseFamilies(entry.person), {}});
+        m_open.push_back({entry, nowhere, m_tree.spouseFamilies(entryAt(entry).person), {}});
     }
 
     void visitFamily(Visit& visit, TreePosition family)
     {
-        if (!m_tree.hasRecord(family)) {
-            noteMissing(family);
+        if (!hasRecord(family)) {
             return;
         }
         TreeEntry& individual = m_walk.m_entries[visit.entry];
@@ -74,7 +133,7 @@ private:
         }
         ++individual.families;
         visit.family = family;
-        if (!individual.isDuplicate && individual.generation < m_limits.totalGenerations) {
+        if (goesOnFrom(individual)) {
             visit.children = m_tree.children(family);
         }
         add({.person = spouse,
@@ -86,45 +145,55 @@ private:
              .kind = EntryKind::Spouse});
     }
 
-    void visitChild(const Visit& visit, TreePosition child)
-    {
-        if (m_privacy.isLeftOut(child)) {
-            return;
-        }
-        const TreeEntry& parent = m_walk.m_entries[visit.entry];
-        const bool parentOpensPage = parent.page == visit.entry;
-        const bool staysOnPage = parent.generation % m_limits.generationsOnPage != 0 || parentOpensPage;
-        // A duplicate is one line; a page of its own would take the name of the page that the main entry may own.
-        const bool isDuplicate = m_walk.m_mainEntry[child] != noEntry;
-        const auto ownNumber = static_cast<EntryNumber>(m_walk.m_entries.size());
-        enter({.person = child,
-               .family = visit.family,
-               .reachedFrom = visit.entry,
-               .page = staysOnPage || isDuplicate ? parent.page : ownNumber,
-               .generation = parent.generation + 1});
-    }
-
-    void noteMissing(TreePosition family)
-    {
-        if (m_missing.insert(family).second) {
-            m_walk.m_missingFamilies.push_back(family);
-        }
-    }
-
-    TreeWalk& m_walk;
-    const FamilyTree& m_tree;
-    const Privacy& m_privacy;
-    const WalkLimits& m_limits;
     std::vector<Visit> m_open;
-    std::unordered_set<TreePosition> m_missing;
 };
 
-TreeWalk::TreeWalk(const FamilyTree& tree, const Privacy& privacy, TreePosition head, const WalkLimits& limits)
-    : m_mainEntry(tree.individuals(), noEntry), m_firstEntry(tree.individuals(), noEntry)
+/// The entries themselves are the queue of those whose parents are still to be visited.
+class TreeWalk::AncestorWalker : Walker
 {
-    Walker(*this, tree, privacy, limits).run(head);
-    settleSpouses();
-    linkEntriesOfPersons();
+public:
+    using Walker::Walker;
+
+    void run(TreePosition head)
+    {
+        enter({.person = head, .page = 0, .kind = EntryKind::Ancestor});
+        for (EntryNumber number = 0; number < m_walk.m_entries.size(); ++number) {
+            visitParents(number);
+        }
+    }
+
+private:
+    void visitParents(EntryNumber number)
+    {
+        const TreePosition family = m_tree.parentFamily(entryAt(number).person);
+        if (!goesOnFrom(entryAt(number)) || family == nowhere || !hasRecord(family)) {
+            return;
+        }
+        for (const TreePosition parent : {m_tree.husband(family), m_tree.wife(family)}) {
+            if (parent != nowhere && !m_privacy.isLeftOut(parent)) {
+                enterNext(number, family, parent, EntryKind::Ancestor);
+            }
+        }
+    }
+};
+
+TreeWalk TreeWalk::ofDescendants(const FamilyTree& tree, const Privacy& privacy, TreePosition head,
+                                 const WalkLimits& limits)
+{
+    TreeWalk walk(tree);
+    DescendantWalker(walk, tree, privacy, limits).run(head);
+    walk.settleSpouses();
+    walk.linkEntriesOfPersons();
+    return walk;
+}
+
+TreeWalk TreeWalk::ofAncestors(const FamilyTree& tree, const Privacy& privacy, TreePosition head,
+                               const WalkLimits& limits)
+{
+    TreeWalk walk(tree);
+    AncestorWalker(walk, tree, privacy, limits).run(head);
+    walk.linkEntriesOfPersons();
+    return walk;
 }
 
 /// Who was met as a spouse may have been met as an individual later on, so this is known only after the walk.

@@ -4,6 +4,7 @@
 
 #include "base/error.h"
 #include "web/albumpages.h"
+#include "web/chartpages.h"
 #include "web/collapsitree.h"
 #include "web/commonpages.h"
 #include "web/messages.h"
@@ -85,23 +86,11 @@ private:
     void loadTree()
     {
         m_tree = FamilyTree::load(m_connection);
-        std::erase_if(m_setup->trees, [this](const TreeDefinition& tree) { return !isAvailable(tree); });
-        if (m_setup->trees.empty()) {
-            throw Error(webmessages::NothingToBuild());
+        for (const TreeDefinition& tree : m_setup->trees) {
+            if (!m_tree.findIndividual(tree.headId.value_or(0))) {
+                throw Error(webmessages::NoSuchTreeHead(tree.headName, tree.headId.value_or(0)));
+            }
         }
-    }
-
-    bool isAvailable(const TreeDefinition& tree)
-    {
-        const std::optional<std::string> prefix = FilePrefix(tree.display);
-        if (prefix != outlinePrefix && prefix != collapsiTreePrefix) {
-            m_environment.talk.tell(webmessages::DisplayNotAvailable(tree.display, tree.headName));
-            return false;
-        }
-        if (!m_tree.findIndividual(tree.headId.value_or(0))) {
-            throw Error(webmessages::NoSuchTreeHead(tree.headName, tree.headId.value_or(0)));
-        }
-        return true;
     }
 
     void prepareFolder()
@@ -136,22 +125,34 @@ private:
         }
         m_run->pictures = PublishedPictures(std::move(m_album), *m_run);
         for (const PublishedTree& tree : m_run->trees) {
-            const bool isOutline = tree.prefix == outlinePrefix;
-            const QString display = isOutline ? QStringLiteral("Outline") : QStringLiteral("CollapsiTree");
-            StepProgress progress(*m_progress, webmessages::EntryOf(display, QString::fromStdString(tree.headName)),
-                                  tree.walk.entries().size());
-            if (isOutline) {
-                WriteOutlinePages(*m_run, tree, progress);
-            } else {
-                WriteCollapsiTree(*m_run, tree, progress);
-            }
+            StepProgress progress(
+                *m_progress, webmessages::EntryOf(DisplayName(tree.display), QString::fromStdString(tree.headName)),
+                tree.walk.entries().size());
+            writePages(tree, progress);
+        }
+    }
+
+    void writePages(const PublishedTree& tree, StepProgress& progress)
+    {
+        switch (tree.display) {
+        case TreeDisplay::Outline:
+            WriteOutlinePages(*m_run, tree, progress);
+            break;
+        case TreeDisplay::CollapsiTree:
+            WriteCollapsiTree(*m_run, tree, progress);
+            break;
+        case TreeDisplay::DescendantTree:
+        case TreeDisplay::AncestorTree:
+            WriteChartPages(*m_run, tree, progress);
+            break;
         }
     }
 
     void addTree(const TreeDefinition& definition)
     {
         const TreePosition head = *m_tree.findIndividual(*definition.headId);
-        if (m_tree.spouseFamilies(head).empty()) {
+        const TreeDisplay display = DisplayOf(definition);
+        if (display == TreeDisplay::AncestorTree ? !hasParents(head) : m_tree.spouseFamilies(head).empty()) {
             const QString name = QString::fromStdString(m_names->displayName(head));
             if (m_environment.talk.ask(webmessages::FamilylessAncestor(name)) != Button::Ok) {
                 throw Stopped{};
@@ -159,11 +160,20 @@ private:
             return;
         }
         WalkLimits limits{.totalGenerations = m_run->settings.totalGenerations};
-        if (FilePrefix(definition.display) == outlinePrefix) {
+        if (display != TreeDisplay::CollapsiTree) {
             limits.generationsOnPage = m_run->settings.generationsOnPage;
         }
-        m_run->trees.push_back(MakePublishedTree(definition, TreeWalk(m_tree, *m_privacy, head, limits)));
+        const auto walk = display == TreeDisplay::AncestorTree ? TreeWalk::ofAncestors : TreeWalk::ofDescendants;
+        m_run->trees.push_back(MakePublishedTree(definition, walk(m_tree, *m_privacy, head, limits)));
         tellMissingFamilies(m_run->trees.back().walk);
+    }
+
+    /// Whether the individual names a family as the parents', be its record missing, and somebody in it.
+    bool hasParents(TreePosition individual) const
+    {
+        const TreePosition family = m_tree.parentFamily(individual);
+        return family != nowhere &&
+               (!m_tree.hasRecord(family) || m_tree.husband(family) != nowhere || m_tree.wife(family) != nowhere);
     }
 
     void tellMissingFamilies(const TreeWalk& walk)

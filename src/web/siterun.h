@@ -10,6 +10,7 @@
 #include "web/publishedpictures.h"
 #include "web/setup.h"
 #include "web/sitetexts.h"
+#include "web/treedisplay.h"
 
 /// What the page writers of one publication share: the settings of the run, the family tree and its texts, and the
 /// trees that are on the site. It is handed to each of them; nothing about a run is kept elsewhere.
@@ -31,8 +32,7 @@ struct RunSettings {
 /// A tree that is on the site (MakePublishedTree in treelinks.h).
 struct PublishedTree {
     TreeDefinition definition;
-    /// Of the names of the tree's pages: "Outline" or "CTree".
-    std::string prefix;
+    TreeDisplay display = TreeDisplay::Outline;
     /// The head's name as the setup has it, UTF-8.
     std::string headName;
     /// "Outline_3_": what stands before the owner's number in a page's name.

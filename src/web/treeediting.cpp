@@ -13,13 +13,6 @@
 namespace stemwright
 {
 
-const QStringList& TreeDisplays()
-{
-    static const QStringList displays = {QStringLiteral("Outline"), QStringLiteral("Descendant Tree"),
-                                         QStringLiteral("CollapsiTree")};
-    return displays;
-}
-
 TreeEditing::TreeEditing(Connection& connection, Environment& environment, QString setupName)
     : m_connection(connection), m_environment(environment), m_setupName(std::move(setupName))
 {
@@ -82,14 +75,12 @@ void TreeEditing::edit(int number)
 
 void TreeEditing::setDisplay(const QString& display)
 {
-    for (const QString& known : TreeDisplays()) {
-        if (known.compare(display, Qt::CaseInsensitive) == 0) {
-            taken().display = known;
-            return;
-        }
+    const std::optional<TreeDisplay> known = FindDisplay(display);
+    if (!known) {
+        throw Error(QStringLiteral("There is no tree display \"%1\"; choose one of %2.")
+                        .arg(display, TreeDisplays().join(QStringLiteral(", "))));
     }
-    throw Error(QStringLiteral("There is no tree display \"%1\"; choose one of %2.")
-                    .arg(display, TreeDisplays().join(QStringLiteral(", "))));
+    taken().display = DisplayName(*known);
 }
 
 void TreeEditing::setIcon(int icon)

@@ -4,9 +4,9 @@
 
 #include "base/environment.h"
 #include "web/setup.h"
+#include "web/treedisplay.h"
 
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 
 #include <optional>
 #include <vector>
@@ -15,9 +15,6 @@
 /// values throw Error; what the user is asked or told goes through Talk. Stands on setup.h.
 namespace stemwright
 {
-
-/// The kinds of display that a tree definition can have, as they are stored.
-const QStringList& TreeDisplays();
 
 class TreeEditing
 {

@@ -14,29 +14,11 @@ namespace stemwright
 namespace
 {
 
-struct Display {
-    QLatin1StringView name;
-    std::string_view prefix;
-};
-
-constexpr std::array<Display, 4> displays = {{{QLatin1StringView("Outline"), outlinePrefix},
-                                              {QLatin1StringView("Descendant Tree"), "DescTree"},
-                                              {QLatin1StringView("CollapsiTree"), collapsiTreePrefix},
-                                              {QLatin1StringView("Ancestor Tree"), "AncTree"}}};
-
-/// What a display is called in the links to its entries.
-QLatin1StringView DisplayName(std::string_view prefix)
-{
-    const auto display =
-        std::find_if(displays.begin(), displays.end(), [prefix](const Display& each) { return each.prefix == prefix; });
-    return display == displays.end() ? QLatin1StringView() : display->name;
-}
-
 /// What follows the address in a link to an entry; the same for all entries of a tree.
-std::string LinkEnd(const TreeDefinition& definition, std::string_view prefix)
+std::string LinkEnd(const TreeDefinition& definition)
 {
     std::string end("\" TARGET=\"frmCenter\" TITLE=\"This person's entry in ");
-    end.append(DisplayName(prefix).latin1()).append(" of '");
+    end.append(DisplayName(DisplayOf(definition)).toStdString()).append(" of '");
     AppendText(end, TidyHeadName(definition));
     end.append("'\"><IMG SRC=\"").append(TreeIcon(definition));
     return end + "\" ALIGN=\"ABSMIDDLE\" VSPACE=\"0\" BORDER=\"0\"></A>";
@@ -58,25 +40,21 @@ void AppendTreePageName(std::string& page, const PublishedTree& tree, int pageOw
 
 } // namespace
 
-PublishedTree MakePublishedTree(const TreeDefinition& definition, TreeWalk walk)
+TreeDisplay DisplayOf(const TreeDefinition& definition)
 {
-    const std::string prefix = FilePrefix(definition.display).value_or(std::string());
-    return {definition,
-            prefix,
-            TidyHeadName(definition),
-            prefix + '_' + std::to_string(definition.number) + '_',
-            LinkEnd(definition, prefix),
-            std::move(walk)};
+    return FindDisplay(definition.display).value_or(TreeDisplay::Outline);
 }
 
-std::optional<std::string> FilePrefix(const QString& display)
+PublishedTree MakePublishedTree(const TreeDefinition& definition, TreeWalk walk)
 {
-    for (const Display& each : displays) {
-        if (each.name.compare(display, Qt::CaseInsensitive) == 0) {
-            return std::string(each.prefix);
-        }
-    }
-    return std::nullopt;
+    const TreeDisplay display = DisplayOf(definition);
+    const std::string prefix(FilePrefix(display));
+    return {definition,
+            display,
+            TidyHeadName(definition),
+            prefix + '_' + std::to_string(definition.number) + '_',
+            LinkEnd(definition),
+            std::move(walk)};
 }
 
 std::string TreePageName(const PublishedTree& tree, int pageOwnerId)

@@ -8,12 +8,9 @@
 namespace stemwright
 {
 
-/// With which the names of an Outline's and of a CollapsiTree's pages begin.
-inline constexpr std::string_view outlinePrefix = "Outline";
-inline constexpr std::string_view collapsiTreePrefix = "CTree";
-
-/// With which the page names of a display begin; no value for an unknown display.
-std::optional<std::string> FilePrefix(const QString& display);
+/// The display of a tree definition. One whose display is unknown, as family files of earlier releases may have it, is
+/// an Outline.
+TreeDisplay DisplayOf(const TreeDefinition& definition);
 
 /// A tree that is on the site from now on.
 PublishedTree MakePublishedTree(const TreeDefinition& definition, TreeWalk walk);

@@ -27,7 +27,7 @@ void AppendRow(PageFile& file, const SiteRun& run, const PublishedTree& tree)
     std::string name;
     AppendText(name, tree.headName);
     std::string display;
-    AppendText(display, tree.definition.display.toStdString());
+    AppendText(display, DisplayName(tree.display).toStdString());
     file.line("<TR>");
     AppendCell(file, "<TD>", std::to_string(run.tree.individualId(tree.walk.entries().front().person)));
     AppendCell(file, "<TD>", name);

@@ -56,7 +56,7 @@ public:
         const std::string chain = AncestorChainText(tree.walk, m_run.tree, number, maxTextLength);
         m_insert.bind(1, m_run.tree.individualId(entry.person));
         bindOrNull(2, ancestor);
-        m_insert.bindUtf8(3, treeNumber).bindUtf8(4, owner).bindUtf8(5, tree.prefix);
+        m_insert.bindUtf8(3, treeNumber).bindUtf8(4, owner).bindUtf8(5, FilePrefix(tree.display));
         m_insert.bindUtf8(6, CutToColumn(name)).bindUtf8(7, CutToColumn(indexName));
         bindOrNull(8, afterName);
         bindOrNull(9, links);

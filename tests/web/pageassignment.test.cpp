@@ -25,7 +25,7 @@ protected:
         const FamilyTree tree = FamilyTree::load(world.file.connection());
         const SiteTexts texts = SiteTexts::load(world.file.connection(), tree, {});
         const Privacy privacy(tree, texts, handling, 90, 2026);
-        const TreeWalk walked(tree, privacy, *tree.findIndividual(1), limits);
+        const TreeWalk walked = TreeWalk::ofDescendants(tree, privacy, *tree.findIndividual(1), limits);
         std::string text;
         for (const TreeEntry& entry : walked.entries()) {
             text += text.empty() ? "" : " ";
@@ -94,7 +94,7 @@ TEST_F(PageAssignmentTest, VeryLongLinesOfDescentAreWalked)
     const FamilyTree tree = FamilyTree::load(world.file.connection());
     const SiteTexts texts = SiteTexts::load(world.file.connection(), tree, {});
     const Privacy privacy(tree, texts, ProtectedPersons::Shown, 90, 2026);
-    const TreeWalk walked(tree, privacy, 0, {.generationsOnPage = 4, .totalGenerations = 32767});
+    const TreeWalk walked = TreeWalk::ofDescendants(tree, privacy, 0, {.generationsOnPage = 4, .totalGenerations = 32767});
     ASSERT_EQ(walked.entries().size(), 2U * 32767);
     const auto deepest = static_cast<EntryNumber>(walked.entries().size() - 2);
     EXPECT_LT(AncestorChainOf(walked, deepest).size(), 1000U);
