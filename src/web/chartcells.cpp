@@ -20,6 +20,19 @@ constexpr int lineHeight = 18;
 constexpr int insetAcross = 8;
 constexpr int insetDown = 5;
 
+/// Lets lines end behind the commas of "Osborne House,Isle of Wight,England", as many programs write places.
+void AllowBreaksAfterCommas(std::string& html, std::size_t from)
+{
+    bool inTag = false;
+    for (std::size_t position = from; position + 1 < html.size(); ++position) {
+        const char character = html[position];
+        inTag = character == '<' || (inTag && character != '>');
+        if (character == ',' && !inTag && html[position + 1] != ' ' && html[position + 1] != '<') {
+            html.insert(position + 1, "<WBR>");
+        }
+    }
+}
+
 } // namespace
 
 ChartCells::ChartCells(const SiteRun& run, const PublishedTree& tree, StepProgress& progress)
@@ -121,7 +134,9 @@ void ChartCells::appendPerson(const TreeEntry& entry)
         m_html.append("<A NAME=\"").append(std::to_string(id)).append("\"></A>");
         AppendInfoLinks(m_html, m_run, entry.person);
     }
+    const std::size_t items = m_html.size();
     AppendEntryItems(m_html, m_run, m_tree.walk, entry, "<BR>");
+    AllowBreaksAfterCommas(m_html, items);
     if (entry.isDuplicate) {
         m_html.append("<BR>");
         AppendDuplicateLink(m_html, m_run, m_tree, entry);
@@ -132,13 +147,12 @@ void ChartCells::appendPerson(const TreeEntry& entry)
 void ChartCells::appendWayTo(EntryNumber number)
 {
     const TreeEntry& entry = entryAt(number);
-    m_html.append("<BR>");
+    m_html.append("<BR><A HREF=\"");
     if (entry.isDuplicate) {
-        AppendEntryName(m_html, m_run, entry);
-        AppendDuplicateLink(m_html, m_run, m_tree, entry);
-        return;
+        AppendMainEntryAddress(m_html, m_run, m_tree, entry.person);
+    } else {
+        m_html.append(TreePageName(m_tree, m_run.tree.individualId(entry.person)));
     }
-    m_html.append("<A HREF=\"").append(TreePageName(m_tree, m_run.tree.individualId(entry.person)));
     m_html.append("\"><IMG SRC=\"graphics/desc.gif\" ALT=\"This Person's ");
     m_html.append(entry.kind == EntryKind::Ancestor ? "Ancestors" : "Descendants");
     m_html.append("\" ALIGN=\"Absmiddle\" VSPACE=\"0\" BORDER=\"0\">");

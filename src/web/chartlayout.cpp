@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "web/chartlayout.h"
 
+#include "web/chartcuts.h"
+
 #include <algorithm>
 
 namespace stemwright
@@ -14,6 +16,10 @@ namespace
 constexpr int gapInStack = 6;
 constexpr int gapOfSiblings = 12;
 constexpr int gapOfCousins = 20;
+
+/// A stack is beside the middle of the next generation unless that is so far below the first one of it, about half a
+/// screen; then it keeps this distance, so that whoever looks at a tall chart sees both at once.
+constexpr int longestLead = 300;
 
 /// Between columns the lines run: so far from both sides, and from each other.
 constexpr int gapBesideLines = 13;
@@ -117,23 +123,20 @@ class Packing
 public:
     explicit Packing(std::vector<Stack>& stacks) : m_stacks(stacks), m_outlines(stacks.size()) {}
 
-    /// Gives every stack its place and returns the height of all.
-    int run()
+    /// Gives every stack its place.
+    void run()
     {
         for (auto number = static_cast<StackNumber>(m_stacks.size()); number-- > 0;) {
             pack(number);
         }
         int top = 0;
-        int bottom = 0;
         for (const Outline::Level& level : m_outlines.front().levels) {
             top = std::min(top, level.top + m_outlines.front().shift);
-            bottom = std::max(bottom, level.bottom + m_outlines.front().shift);
         }
         m_stacks.front().top = -top;
         for (std::size_t number = 1; number < m_stacks.size(); ++number) {
             m_stacks[number].top += m_stacks[m_stacks[number].parent].top;
         }
-        return bottom - top;
     }
 
 private:
@@ -157,7 +160,8 @@ private:
             last = child;
         }
         if (last != noStack) {
-            const int shift = (stack.height - m_stacks[last].top - m_stacks[last].height) / 2;
+            const int middle = std::min((m_stacks[last].top + m_stacks[last].height) / 2, longestLead);
+            const int shift = stack.height / 2 - middle;
             for (StackNumber child = stack.firstChild; child != noStack; child = m_stacks[child].nextSibling) {
                 m_stacks[child].top += shift;
             }
@@ -212,10 +216,10 @@ public:
         m_layout.boxes.resize(boxes.size());
     }
 
-    ChartLayout run(int height)
+    ChartLayout run()
     {
-        m_layout.height = height;
         placeAcross();
+        m_layout.cuts = MakeCuts(m_layout.boxes);
         collectBranchings();
         placeAlong();
         drawTies();
@@ -266,6 +270,7 @@ private:
         for (const Stack& stack : m_stacks) {
             for (BoxNumber box = stack.firstBox; box < stack.end; ++box) {
                 m_layout.boxes[box].left += m_columns[stack.column].left;
+                m_layout.height = std::max(m_layout.height, m_layout.boxes[box].bottom());
             }
         }
     }
@@ -336,8 +341,8 @@ ChartLayout LayOutChart(std::span<const ChartBox> boxes)
         return {};
     }
     std::vector<Stack> stacks = StacksOf(boxes);
-    const int height = Packing(stacks).run();
-    return Drawing(boxes, stacks).run(height);
+    Packing(stacks).run();
+    return Drawing(boxes, stacks).run();
 }
 
 } // namespace stemwright

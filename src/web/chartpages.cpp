@@ -3,7 +3,7 @@
 #include "web/chartpages.h"
 
 #include "web/chartcells.h"
-#include "web/chartstripes.h"
+#include "web/chartcuts.h"
 #include "web/treelinks.h"
 #include "web/treepages.h"
 

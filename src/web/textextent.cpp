@@ -74,13 +74,15 @@ public:
         } else if (character == noBreakSpace) {
             m_word += asciiWidths.front();
         } else if (character == zeroWidthSpace) {
-            endWord();
+            allowBreak();
         } else if (const Block& block = BlockOf(character); block.breaksAnywhere) {
             addBox(weighted(block.width));
         } else {
             m_word += weighted(block.width);
         }
     }
+
+    void allowBreak() { endWord(); }
 
     /// Something that is not parted, but may be from its neighbours.
     void addBox(int width)
@@ -162,6 +164,8 @@ void AddTag(LineFiller& lines, std::string_view html, int fontSize)
     const std::string_view tag = TagName(html, name);
     if (tag == "B" || tag == "/B") {
         lines.setBold(tag == "B");
+    } else if (tag == "WBR") {
+        lines.allowBreak();
     } else if (tag == "IMG") {
         lines.addBox(iconWidth * fontSizeUnits / fontSize);
     } else if (tag == "BR" || tag == "DIV" || tag == "/DIV" || tag == "P" || tag == "LI" || tag == "TR") {

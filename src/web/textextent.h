@@ -14,8 +14,8 @@ namespace stemwright
 inline constexpr int iconWidth = 30;
 
 /// How many lines `html` takes, at least 1, when it is set in `fontSize` pixels and wrapped to `width` pixels: element
-/// text in ASCII with character references. Of its markup, B is bold, BR, DIV, P, LI and TR begin lines and IMG is an
-/// icon; the rest is taken to have no extent.
+/// text in ASCII with character references. Of its markup, B is bold, BR, DIV, P, LI and TR begin lines, WBR allows
+/// one to end and IMG is an icon; the rest is taken to have no extent.
 int LinesOf(std::string_view html, int fontSize, int width);
 
 } // namespace stemwright
