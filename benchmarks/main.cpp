@@ -31,6 +31,8 @@ const std::vector<Work>& AllWork()
     static const std::vector<Work> work = {
         {"import", MeasureImport, {2.5, 1.25, 40'000'000, 100}},
         {"publish", MeasurePublishing, {2.5, 1.25, 60'000'000, 2'000}},
+        {"desctree", MeasureDescendantTree, {2.5, 1.25, 60'000'000, 2'000}},
+        {"anctree", MeasureAncestorTree, {2.5, 1.25, 60'000'000, 2'000}},
     };
     return work;
 }

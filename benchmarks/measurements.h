@@ -20,7 +20,10 @@ Needs NeedsOf(std::uint32_t individuals);
 /// `stemwright-cli import` into an empty family file against limit_import.
 PairResult MeasureImport(const Bench& bench, std::uint32_t individuals);
 
-/// `stemwright-cli publish` with personal pages into a new folder against limit_publish.
+/// `stemwright-cli publish` with personal pages into a new folder against limit_publish, for each display whose pages
+/// are split: an Outline, a Descendant Tree, and an Ancestor Tree of a pedigree.
 PairResult MeasurePublishing(const Bench& bench, std::uint32_t individuals);
+PairResult MeasureDescendantTree(const Bench& bench, std::uint32_t individuals);
+PairResult MeasureAncestorTree(const Bench& bench, std::uint32_t individuals);
 
 } // namespace stemwright::bench

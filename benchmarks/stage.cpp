@@ -37,12 +37,13 @@ Report Stage::measured(const std::vector<std::string>& command) const
     return report;
 }
 
-void Stage::writeTree(std::uint32_t individuals, const std::string& path) const
+void Stage::writeTree(std::uint32_t individuals, const std::string& path, TreeShape shape) const
 {
     std::ofstream file(path, std::ios::binary);
-    GenerateTree(individuals, [&file](std::string_view piece) {
+    const auto write = [&file](std::string_view piece) {
         file.write(piece.data(), static_cast<std::streamsize>(piece.size()));
-    });
+    };
+    GenerateTree(individuals, write, shape);
     if (!file.flush()) {
         throw std::runtime_error(path + " cannot be written");
     }

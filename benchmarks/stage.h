@@ -5,6 +5,7 @@
 #include "figures.h"
 #include "process.h"
 #include "stopwatch.h"
+#include "treeplan.h"
 #include "workfolder.h"
 
 #include <string>
@@ -55,7 +56,7 @@ public:
     /// Runs a program that prints when it began, the seconds of its work, and perhaps more.
     Report measured(const std::vector<std::string>& command) const;
 
-    void writeTree(std::uint32_t individuals, const std::string& path) const;
+    void writeTree(std::uint32_t individuals, const std::string& path, TreeShape shape = TreeShape::Offspring) const;
 
 private:
     const Bench& m_bench;

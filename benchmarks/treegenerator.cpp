@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "treegenerator.h"
 
-#include "treeplan.h"
 #include "treewords.h"
 
 #include <charconv>
@@ -181,7 +180,9 @@ void WriteFamily(GedcomText& text, Number number, const Family& family)
     Random random(familySeed + (std::uint64_t{number} << 32));
     text.line("0 @F", number, "@ FAM");
     text.line("1 HUSB @I", family.husband, "@");
-    text.line("1 WIFE @I", family.wife, "@");
+    if (family.wife != 0) {
+        text.line("1 WIFE @I", family.wife, "@");
+    }
     for (Number child = 0; child < family.children; ++child) {
         text.line("1 CHIL @I", family.firstChild + child, "@");
         if (random.chance(20)) {
@@ -211,9 +212,9 @@ void WriteHead(GedcomText& text)
 
 } // namespace
 
-TreeCounts GenerateTree(std::uint32_t individuals, const TextReceiver& receiver)
+TreeCounts GenerateTree(std::uint32_t individuals, const TextReceiver& receiver, TreeShape shape)
 {
-    const TreePlan plan(individuals);
+    const TreePlan plan(individuals, shape);
     TreeCounts counts{plan.individuals(), plan.families(), 0};
     GedcomText text(receiver);
     WriteHead(text);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "treeplan.h"
+
 #include <cstdint>
 #include <functional>
 #include <string_view>
@@ -22,7 +24,9 @@ struct TreeCounts {
 /// Takes the next piece of the file, UTF-8 with LF line ends.
 using TextReceiver = std::function<void(std::string_view)>;
 
-/// Generates a file with exactly this many individuals, at least 2. Individual 1 is the head from whom most descend.
-TreeCounts GenerateTree(std::uint32_t individuals, const TextReceiver& receiver);
+/// Generates a file with exactly this many individuals, at least 2. Individual 1 is the head from whom most descend, or
+/// who descends from all others.
+TreeCounts GenerateTree(std::uint32_t individuals, const TextReceiver& receiver,
+                        TreeShape shape = TreeShape::Offspring);
 
 } // namespace stemwright::bench

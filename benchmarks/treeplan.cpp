@@ -42,10 +42,19 @@ std::size_t MarriageCount(const Person& person)
 
 } // namespace
 
-TreePlan::TreePlan(std::uint32_t individuals)
+TreePlan::TreePlan(std::uint32_t individuals, TreeShape shape)
     : m_individuals(individuals), m_random(planSeed), m_people(1), m_families(1)
 {
     m_people.reserve(individuals + 1U);
+    if (shape == TreeShape::Pedigree) {
+        growPedigree();
+    } else {
+        growOffspring();
+    }
+}
+
+void TreePlan::growOffspring()
+{
     // Those who are added meanwhile are visited later: the walk goes from generation to generation.
     for (Number person = 1; !full(); ++person) {
         if (person == m_people.size()) {
@@ -54,6 +63,26 @@ TreePlan::TreePlan(std::uint32_t individuals)
         if (m_people[person].descendant) {
             marry(person);
         }
+    }
+}
+
+/// The parents of individual n are 2n and 2n + 1, in family n.
+void TreePlan::growPedigree()
+{
+    constexpr int lastBirthYear = 1980;
+    for (Number person = 1; person <= m_individuals; ++person) {
+        Person next;
+        next.generation = static_cast<std::uint8_t>(person == 1 ? 1 : m_people[person / 2].generation + 1);
+        next.birthYear = Year(person == 1 ? lastBirthYear : m_people[person / 2].birthYear - m_random.between(22, 36));
+        next.surname = person % 2 == 0 ? m_people[person / 2].surname : AnySurname(m_random);
+        next.sex = person % 2 == 0 ? Sex::Male : Sex::Female;
+        next.birthFamily = 2 * person <= m_individuals ? person : 0;
+        next.families[0] = person / 2;
+        addPerson(next);
+    }
+    for (Number child = 1; 2 * child <= m_individuals; ++child) {
+        const Number wife = 2 * child < m_individuals ? 2 * child + 1 : 0;
+        m_families.push_back({2 * child, wife, child, 1, Year(m_people[child].birthYear - 2)});
     }
 }
 

@@ -10,12 +10,15 @@
 
 /// Who descends from whom in a generated tree, without names and texts. For the most part it is the offspring of one
 /// couple, generation after generation, with the spouses who married in; some marry twice or three times, some marry a
-/// cousin, and of some spouses the parents are known. A smaller tree is the beginning of a larger one. It cannot fail.
+/// cousin, and of some spouses the parents are known. A smaller tree is the beginning of a larger one. Or it is the
+/// pedigree of one individual, both parents of everybody, generation after generation. It cannot fail.
 namespace stemwright::bench
 {
 
 /// The number of an individual or of a family in its GEDCOM file, from 1 on; 0 stands for none.
 using Number = std::uint32_t;
+
+enum class TreeShape : std::uint8_t { Offspring, Pedigree };
 
 enum class Sex : std::uint8_t { Male, Female };
 
@@ -34,6 +37,7 @@ struct Person {
 /// The children of a family are numbered in a row.
 struct Family {
     Number husband = 0;
+    /// 0 only in a pedigree that ends with a father.
     Number wife = 0;
     Number firstChild = 0;
     std::uint16_t children = 0;
@@ -44,7 +48,7 @@ class TreePlan
 {
 public:
     /// Plans a tree of exactly this many individuals, at least 2.
-    explicit TreePlan(std::uint32_t individuals);
+    explicit TreePlan(std::uint32_t individuals, TreeShape shape = TreeShape::Offspring);
 
     std::uint32_t individuals() const { return static_cast<std::uint32_t>(m_people.size() - 1); }
 
@@ -59,6 +63,8 @@ private:
 
     bool full() const { return m_people.size() > m_individuals; }
 
+    void growOffspring();
+    void growPedigree();
     void startLine();
     Number addPerson(const Person& person);
     Number addSpouse(Number person, ParentsKnown parentsKnown);

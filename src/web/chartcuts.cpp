@@ -13,8 +13,8 @@ namespace
 {
 
 // The distance of two cuts as it should be, and how far boxes may be moved for one.
-constexpr int shortestDistance = 200;
-constexpr int longestDistance = 520;
+constexpr int shortestDistance = 120;
+constexpr int longestDistance = 340;
 constexpr int mostRoom = 120;
 
 /// Between a cut and the boxes at both sides.
