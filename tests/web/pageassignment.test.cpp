@@ -20,12 +20,13 @@ class PageAssignmentTest : public testing::Test
 protected:
     /// The entries of the walk from person 1, as "generation:id" with "+" for a spouse, "=" for a duplicate and the
     /// page's owner after "@".
-    std::string walk(const WalkLimits& limits, ProtectedPersons handling = ProtectedPersons::Shown)
+    std::string walk(const WalkLimits& limits, ProtectedPersons handling = ProtectedPersons::Shown,
+                     decltype(TreeWalk::ofDescendants) walker = TreeWalk::ofDescendants)
     {
         const FamilyTree tree = FamilyTree::load(world.file.connection());
         const SiteTexts texts = SiteTexts::load(world.file.connection(), tree, {});
         const Privacy privacy(tree, texts, handling, 90, 2026);
-        const TreeWalk walked = TreeWalk::ofDescendants(tree, privacy, *tree.findIndividual(1), limits);
+        const TreeWalk walked = walker(tree, privacy, *tree.findIndividual(1), limits);
         std::string text;
         for (const TreeEntry& entry : walked.entries()) {
             text += text.empty() ? "" : " ";
@@ -81,6 +82,24 @@ TEST_F(PageAssignmentTest, HiddenPersonsAreLeftOutWithTheirFamilies)
     EXPECT_EQ(walk({}), "1:1@1 1+2@1 2:4@1 2+?@1 3:6@1 2:7@1 1+3@1 2:5@1");
 }
 
+TEST_F(PageAssignmentTest, AncestorsAreMetGenerationByGeneration)
+{
+    build.persons(9);
+    // 8 and 9 are the parents of 4 and of 3's father 6, so that they are nearer through 2; 5 is his own ancestor.
+    build.family(1, 2, 3, {1}).family(2, 4, 5, {2}).family(3, 6, 0, {3}).family(4, 8, 9, {4, 6}).family(5, 0, 5, {5});
+    const auto ancestors = [this](const WalkLimits& limits, ProtectedPersons handling = ProtectedPersons::Shown) {
+        return walk(limits, handling, TreeWalk::ofAncestors);
+    };
+    EXPECT_EQ(ancestors({}), "1:1@1 2:2@1 2:3@1 3:4@1 3:5@1 3:6@1 4:8@1 4:9@1 4:5=@1 4:8=@1 4:9=@1");
+    EXPECT_EQ(ancestors({.generationsOnPage = 2}),
+              "1:1@1 2:2@1 2:3@1 3:4@4 3:5@5 3:6@6 4:8@4 4:9@4 4:5=@5 4:8=@6 4:9=@6");
+    EXPECT_EQ(ancestors({.generationsOnPage = 3, .totalGenerations = 3}), "1:1@1 2:2@1 2:3@1 3:4@1 3:5@1 3:6@1");
+    EXPECT_EQ(ancestors({.totalGenerations = 1}), "1:1@1");
+    // The head is written all the same; 3 and 4 are left out with those beyond.
+    build.run("UPDATE Indi SET BIRT_Date = '1990' WHERE Id IN (1, 3, 4)");
+    EXPECT_EQ(ancestors({}, ProtectedPersons::Hidden), "1:1@1 2:2@1 3:5@1 4:5=@1");
+}
+
 TEST_F(PageAssignmentTest, VeryLongLinesOfDescentAreWalked)
 {
     constexpr int last = 40000;
@@ -94,7 +113,8 @@ TEST_F(PageAssignmentTest, VeryLongLinesOfDescentAreWalked)
     const FamilyTree tree = FamilyTree::load(world.file.connection());
     const SiteTexts texts = SiteTexts::load(world.file.connection(), tree, {});
     const Privacy privacy(tree, texts, ProtectedPersons::Shown, 90, 2026);
-    const TreeWalk walked = TreeWalk::ofDescendants(tree, privacy, 0, {.generationsOnPage = 4, .totalGenerations = 32767});
+    const TreeWalk walked =
+        TreeWalk::ofDescendants(tree, privacy, 0, {.generationsOnPage = 4, .totalGenerations = 32767});
     ASSERT_EQ(walked.entries().size(), 2U * 32767);
     const auto deepest = static_cast<EntryNumber>(walked.entries().size() - 2);
     EXPECT_LT(AncestorChainOf(walked, deepest).size(), 1000U);

@@ -46,6 +46,23 @@ TEST(SiteBuild, PagesOfAFamilyAreAsTheyWereReviewed)
     EXPECT_EQ(world.page("graphics/center.gif"), "Memories");
 }
 
+TEST(SiteBuild, TreesOfRectanglesAreAsTheyWereReviewed)
+{
+    SiteWorld world;
+    AddHarts(world);
+    world.setup("PersPages = 1, MaxGenOnPage = 3, CellFg = 0x102030, CellBg = 0xFFE");
+    world.build.run("UPDATE TreeHeads SET GenDisplayType = 'descendant tree'");
+    world.head(13, "Vivid, Vera", "Ancestor Tree");
+    ASSERT_TRUE(world.publish());
+    for (const QString& name : QDir(TestData("web/rectangles")).entryList(QDir::Files)) {
+        EXPECT_EQ(world.page(name), TestDataText("web/rectangles/" + name).toStdString()) << name;
+    }
+    // Nobody descends from the head of a tree of ancestors.
+    EXPECT_EQ(Count(world.page("PersPage_2.html"), "Descendant of:"), 0);
+    EXPECT_THAT(world.column("SELECT * FROM Indi2Page WHERE GenDisplayType = 'AncTree' AND AncestorChain IS NOT NULL"),
+                IsEmpty());
+}
+
 TEST(SiteBuild, NothingOfHiddenPersonsIsPublished)
 {
     SiteWorld world;
@@ -57,7 +74,9 @@ TEST(SiteBuild, NothingOfHiddenPersonsIsPublished)
         .family(9, 6, 13, {16}, {{"Marriage_Place", "Secrethall"}})
         .family(10, 16, 18, {17});
     world.setup("PersPages = 1, HideLiving = 1").item("Marriage Status|_MSTAT|r|Yes|||||Fam");
-    world.head(12, "Abaj", "CollapsiTree").head(16, "Vivid, Dead");
+    world.head(12, "Abaj", "CollapsiTree")
+        .head(16, "Vivid, Dead", "Descendant Tree")
+        .head(17, "Hidden", "Ancestor Tree");
     ASSERT_TRUE(world.publish());
     for (const auto& [name, bytes] : world.files()) {
         for (const char* secret : {"Vera", "1990", "Mar 1990", "ecret", "PersPage_13", "_13.html", "#13\"", "\"13\""}) {
@@ -137,17 +156,17 @@ TEST(SiteBuild, MessagesOfTheWalk)
     SiteWorld world;
     AddHarts(world);
     world.build.spouse(1, 99);
-    world.head(13, "Vivid, Vera").head(5, "Hart, Jane", "Ancestor Tree");
-    world.talk.expect("Display not available")
-        .expect("The output folder")
+    world.head(13, "Vivid, Vera").head(12, "Abaj", "Ancestor Tree").head(5, "Hart, Jane", "Unheard of");
+    world.talk.expect("The output folder")
         .expect("Missing family record")
+        .expect("Family-less Ancestor")
         .expect("Family-less Ancestor")
         .expect("Web Pages Created");
     ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
-    EXPECT_THAT(world.talk.shown()[2].text.toStdString(), HasSubstr("# 99\n"));
-    EXPECT_THAT(world.talk.shown()[3].text.toStdString(), HasSubstr("ancestor, Vera Vivid\nhas no families. \n"));
-    EXPECT_THAT(world.page("topright.html"), HasSubstr("from the <A HREF=\"Outline_1_1.html\">"));
-    EXPECT_EQ(Count(world.page("TreeList.html"), "<TR>"), 1);
+    EXPECT_THAT(world.talk.shown()[1].text.toStdString(), HasSubstr("# 99\n"));
+    EXPECT_THAT(world.talk.shown()[2].text.toStdString(), HasSubstr("ancestor, Vera Vivid\nhas no families. \n"));
+    EXPECT_EQ(Count(world.page("TreeList.html"), "<TR>"), 2);
+    EXPECT_EQ(Count(world.page("TreeList.html"), "HREF=\"Outline_4_5.html\""), 1);
 }
 
 TEST(SiteBuild, StoppedBuildLeavesFolderAndFileAlone)
