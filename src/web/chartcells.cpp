@@ -116,6 +116,9 @@ void ChartCells::appendPerson(const TreeEntry& entry)
 {
     const bool isMain = entry.person != nowhere && !entry.isDuplicate;
     const int id = isMain ? m_run.tree.individualId(entry.person) : 0;
+    if (isMain) {
+        m_html.append("<A NAME=\"").append(std::to_string(id)).append("\"></A>");
+    }
     m_html.append("<B>");
     if (entry.kind != EntryKind::Spouse) {
         m_html.append(std::to_string(entry.generation)).append("&nbsp;");
@@ -131,7 +134,6 @@ void ChartCells::appendPerson(const TreeEntry& entry)
         m_html.append("</B>");
     }
     if (isMain) {
-        m_html.append("<A NAME=\"").append(std::to_string(id)).append("\"></A>");
         AppendInfoLinks(m_html, m_run, entry.person);
     }
     const std::size_t items = m_html.size();

@@ -15,6 +15,8 @@ const oldBook = { PageStyle: 0 };
 const memories = { PageStyle: 1 };
 const outline = (head) => ({ head, display: "Outline" });
 const collapsible = (head) => ({ head, display: "CollapsiTree" });
+const descendants = (head) => ({ head, display: "Descendant Tree" });
+const ancestors = (head) => ({ head, display: "Ancestor Tree" });
 
 // Command lines for a picture with `texts` (options of "picture add") and the marks of `persons` and of typed `names`.
 function picture(id, texts, persons, names = []) {
@@ -41,16 +43,17 @@ const livingAlbum = [
 
 const kinds = {
     "one outline, personal pages": { gedcom: "thornbury.ged", settings: { ...oldBook, PersPages: 1, MaxGenOnPage: 3 }, trees: [outline(1)], album },
-    "several trees, personal pages": { gedcom: "thornbury.ged", settings: { ...memories, PersPages: 1, MaxGenOnPage: 2 }, trees: [outline(1), collapsible(1), outline(3)] },
-    "several trees, no personal pages": { gedcom: "thornbury.ged", settings: { ...oldBook, PersPages: 0, MaxGenOnPage: 2 }, trees: [collapsible(1), outline(1)], album },
+    "several trees, personal pages": { gedcom: "thornbury.ged", settings: { ...memories, PersPages: 1, MaxGenOnPage: 2 }, trees: [outline(1), collapsible(1), outline(3), descendants(1), ancestors(52)], album },
+    "several trees, no personal pages": { gedcom: "thornbury.ged", settings: { ...oldBook, PersPages: 0, MaxGenOnPage: 2 }, trees: [collapsible(1), outline(1), ancestors(59)], album },
+    "one descendant tree, no personal pages": { gedcom: "thornbury.ged", settings: { ...memories, PersPages: 0, MaxGenOnPage: 3 }, trees: [descendants(1)], album },
     "one collapsible tree, no personal pages": { gedcom: "thornbury.ged", settings: { ...memories, PersPages: 0 }, trees: [collapsible(1)] },
     "a subsite": { gedcom: "thornbury.ged", settings: { ...oldBook, PersPages: 1, Standalone: 0, HomePageName: "../family.kvf" }, trees: [outline(1)] },
-    "hostile texts, personal pages": { gedcom: "hostile.ged", settings: { ...oldBook, PersPages: 1, MaxGenOnPage: 2 }, trees: [outline(1), collapsible(1)], album: hostileAlbum },
-    "hostile texts, no personal pages": { gedcom: "hostile.ged", settings: { ...memories, PersPages: 0, MaxGenOnPage: 2 }, trees: [collapsible(1), outline(1)], album: hostileAlbum },
-    "living hidden": { gedcom: "living.ged", settings: { ...oldBook, PersPages: 1, HideLiving: 1, MaxPrivacyAge: 900 }, trees: [outline(1), collapsible(1)], album: livingAlbum },
-    "living hidden, no personal pages": { gedcom: "living.ged", settings: { ...memories, PersPages: 0, HideLiving: 1, MaxPrivacyAge: 900 }, trees: [collapsible(1), outline(1)], album: livingAlbum },
-    "living shown": { gedcom: "living.ged", settings: { ...oldBook, PersPages: 1, HideLiving: 0, MaxPrivacyAge: 900 }, trees: [outline(1), collapsible(1)], album: livingAlbum },
-    "the sample family's memories": { sample: "Memories of Whiskermoor", trees: [outline(1), collapsible(3), outline(5), collapsible(1)] },
+    "hostile texts, personal pages": { gedcom: "hostile.ged", settings: { ...oldBook, PersPages: 1, MaxGenOnPage: 2 }, trees: [outline(1), collapsible(1), descendants(1), ancestors(13)], album: hostileAlbum },
+    "hostile texts, no personal pages": { gedcom: "hostile.ged", settings: { ...memories, PersPages: 0, MaxGenOnPage: 2 }, trees: [collapsible(1), outline(1), ancestors(13), descendants(1)], album: hostileAlbum },
+    "living hidden": { gedcom: "living.ged", settings: { ...oldBook, PersPages: 1, HideLiving: 1, MaxPrivacyAge: 900 }, trees: [outline(1), collapsible(1), descendants(1), ancestors(11)], album: livingAlbum },
+    "living hidden, no personal pages": { gedcom: "living.ged", settings: { ...memories, PersPages: 0, HideLiving: 1, MaxPrivacyAge: 900 }, trees: [descendants(1), ancestors(11)], album: livingAlbum },
+    "living shown": { gedcom: "living.ged", settings: { ...oldBook, PersPages: 1, HideLiving: 0, MaxPrivacyAge: 900 }, trees: [descendants(1), ancestors(14)], album: livingAlbum },
+    "the sample family's memories": { sample: "Memories of Whiskermoor", trees: [outline(1), collapsible(3), outline(5), collapsible(1), ancestors(24)] },
 };
 const sites = {};
 let browser;
@@ -161,21 +164,25 @@ test("the path of pages shows, page by page, and leads back", async (t) => {
     const kind = "several trees, personal pages";
     const page = await visit(t, kind);
     const pathFrame = page.frame("frmTopLeft");
-    const deepest = [];
-    for (const name of pagesOf(sites[kind]).filter((file) => file.startsWith("Outline_"))) {
+    const deepest = { Outline: [], DescTree: [], AncTree: [] };
+    for (const name of pagesOf(sites[kind]).filter((file) => /^(Outline|DescTree|AncTree)_/.test(file))) {
+        const path = deepest[name.split("_")[0]];
         const centre = await showInCentre(page, name);
         const title = await centre.title();
         await pathFrame.locator("#DocOwner").getByText(title, { exact: true }).waitFor({ timeout: 5000 });
         await pathFrame.locator("#Icon img").waitFor();
         const roots = await pathFrame.locator("#DocRoots a").allTextContents();
-        if (roots.length > deepest.length) {
-            deepest.splice(0, Infinity, ...roots);
+        if (roots.length > path.length) {
+            path.splice(0, Infinity, ...roots);
             await pathFrame.locator("#DocRoots a").first().click();
-            await pathFrame.locator("#DocOwner").getByText("Descendants of Josiah Thornbury", { exact: true }).waitFor({ timeout: 5000 });
+            const head = name.startsWith("AncTree") ? "Ancestors of Octavia Lockhart" : "Descendants of Josiah Thornbury";
+            await pathFrame.locator("#DocOwner").getByText(head, { exact: true }).waitFor({ timeout: 5000 });
             assert.equal(await pathFrame.locator("#DocRoots a").count(), 0);
         }
     }
-    assert.ok(deepest.length >= 2 && deepest[0].includes("Thornbury"), `the longest path is ${deepest}`);
+    for (const path of Object.values(deepest)) {
+        assert.ok(path.length >= 2 && /Thornbury|Lockhart/.test(path[0]), `the longest path is ${path}`);
+    }
     assert.deepEqual(page.complaints, []);
 });
 
@@ -203,17 +210,18 @@ for (const kind of Object.keys(kinds).filter((name) => name.startsWith("hostile"
     test(`hostile and foreign texts show as typed: ${kind}`, async (t) => {
         const page = await visit(t, kind);
         const text = {};
-        for (const name of pagesOf(sites[kind]).filter((file) => /^(Outline|CTree|PersPage|NameIndex|TreeList|Pic|ListOfPics|Thumbs)/.test(file))) {
+        for (const name of pagesOf(sites[kind]).filter((file) => /^(Outline|CTree|DescTree|AncTree|PersPage|NameIndex|TreeList|Pic|ListOfPics|Thumbs)/.test(file))) {
             const centre = await showInCentre(page, name);
             const prefix = name.match(/^[A-Za-z]+/)[0];
             text[prefix] = `${text[prefix] ?? ""}\n${await centre.evaluate(() => document.body.textContent.replace(/\u00a0/g, " "))}`;
-            if (/^(Outline|CTree)_._1\.html$/.test(name)) {
+            if (/^(Outline|CTree|DescTree)_._1\.html$/.test(name)) {
                 const owner = `Descendants of ${typed.title} ${typed.names[0]} script>`;
                 await page.frame("frmTopLeft").locator("#DocOwner").getByText(owner, { exact: true }).waitFor({ timeout: 5000 });
             }
         }
         const expected = {
-            Outline: [...typed.names, ...typed.places, typed.title], CTree: [...typed.names, ...typed.places, typed.title],
+            ...Object.fromEntries(["Outline", "CTree", "DescTree"].map((prefix) => [prefix, [...typed.names, ...typed.places, typed.title]])),
+            AncTree: [typed.names[0], "'+window.hacked+'", "\u00dftra\u00dfe"],
             NameIndex: typed.names, TreeList: [typed.names[0]],
             PicPage: [hostile.title, hostile.place, ...hostile.description.split("\n"), ...hostileNames, typed.names[0]],
             PicList: [hostile.title, hostile.place, typed.title, typed.names[0]], ListOfPics: [hostile.title, hostile.place], Thumbs: [hostile.title, typed.title],
