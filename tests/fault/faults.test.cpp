@@ -24,6 +24,11 @@ protected:
         const QString old = world.writeTree("old.ged");
         ASSERT_EQ(world.run({"new", file}).status, 0);
         ASSERT_EQ(world.run({"--yes", "import", file, old}).status, 0);
+        for (const char* display : {"Outline", "Descendant Tree", "CollapsiTree", "Ancestor Tree"}) {
+            const char* head = QByteArrayView(display).startsWith("Anc") ? "3" : "1";
+            ASSERT_EQ(world.run({"setup", "tree", file, "Default", "add", "--head", head, "--display", display}).status,
+                      0);
+        }
         ASSERT_EQ(world.run(publish).status, 0);
         before = Fingerprint(file);
         QByteArray people;
@@ -99,9 +104,14 @@ TEST_F(FaultsTest, AFullDiskLeavesNoHalfFiles)
 
 TEST_F(FaultsTest, AFullDiskEndsThePublication)
 {
-    for (const qint64 kilobytes : {0, 5, 100}) {
-        SCOPED_TRACE(kilobytes);
-        expectCleanFailure(runOnFaultyDisk("full", site, kilobytes * 1024, publish), "No space left on device");
+    // The graphics come first, then the pages of the trees.
+    qint64 graphics = 0;
+    for (const QFileInfo& image : QDir(site + "/graphics").entryInfoList(QDir::Files)) {
+        graphics += image.size();
+    }
+    for (const qint64 bytes : {qint64(0), graphics / 2, graphics + 500, graphics + 2'500, graphics + 8'000}) {
+        SCOPED_TRACE(bytes);
+        expectCleanFailure(runOnFaultyDisk("full", site, bytes, publish), "No space left on device");
     }
     EXPECT_EQ(world.run(publish).status, 0);
 }

@@ -225,6 +225,12 @@ void KillTest::killChange(const QStringList& arguments)
 void KillTest::killPublications()
 {
     makeBase(5'000);
+    for (const char* display : {"Outline", "Descendant Tree", "Ancestor Tree"}) {
+        run({QStringLiteral("setup"), QStringLiteral("tree"), m_base, QStringLiteral("Default"), QStringLiteral("add"),
+             QStringLiteral("--head"),
+             QLatin1StringView(display) == "Ancestor Tree" ? QStringLiteral("4000") : QStringLiteral("1"),
+             QStringLiteral("--display"), QLatin1StringView(display)});
+    }
     killPublication();
 }
 
