@@ -23,11 +23,12 @@ constexpr int gapAtCut = 4;
 struct Cut {
     /// Boxes whose middle is further down are moved.
     int height = 0;
-    /// How far the boxes above it reach below that height, and the boxes below it above.
+    /// How far the boxes above it reach below that height, and the boxes below it above; the latter is negative where
+    /// there is a gap anyway.
     int reachDown = 0;
     int reachUp = 0;
 
-    int room() const { return reachDown + reachUp + 2 * gapAtCut; }
+    int room() const { return std::max(0, reachDown + reachUp + 2 * gapAtCut); }
 };
 
 std::vector<BoxNumber> FromTopToBottom(const std::vector<PlacedBox>& boxes)
@@ -75,7 +76,7 @@ private:
             m_crossed.push_back(m_order[m_next++]);
         }
         std::erase_if(m_crossed, [&](BoxNumber box) { return m_boxes[box].bottom() <= height; });
-        Cut cut{height};
+        Cut cut{height, 0, m_next < m_order.size() ? height - m_boxes[m_order[m_next]].top : -mostRoom};
         for (const BoxNumber number : m_crossed) {
             const PlacedBox& box = m_boxes[number];
             if (box.middle() > height) {

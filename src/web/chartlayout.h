@@ -9,9 +9,10 @@
 
 /// Where the rectangles of a tree and the lines between them go. A chart grows from left to right: a column for each
 /// generation, in which the rectangles of a person and of his or her spouses stand on each other, beside the middle of
-/// the next generation (near its upper end where that would be too far). Rows of wrapped text are stacked better than they are put side by side, twelve children are a
-/// tall page rather than a very wide one, and tall pages are what browsers scroll and printers print. All measures are
-/// pixels, from the left upper corner of the chart. Nothing here fails. Stands on nothing.
+/// the next generation (near its upper end where that would be too far). Rows of wrapped text are stacked better than
+/// they are put side by side, twelve children are a tall page rather than a very wide one, and tall pages are what
+/// browsers scroll and printers print. All measures are pixels, from the left upper corner of the chart. Nothing here
+/// fails. Stands on nothing.
 namespace stemwright
 {
 

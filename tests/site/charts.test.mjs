@@ -40,16 +40,16 @@ const birth = ["1 BIRT", "2 DATE ABT 12 SEP 1746", "2 PLAC Kensington Palace,Lon
 // Twelve children, some married several times, and a line of nine generations.
 function twelveChildren() {
     const family = new Family();
-    const head = [family.person("Adam /Root/", "M", birth), family.person("Eve /Stem/", "F")];
+    const head = [family.person("Adam /Trunk/", "M", birth), family.person("Eve /Stem/", "F")];
     const children = family.family(...head, Array.from({ length: 12 }, (_, place) => family.person(longNames[place % longNames.length], "M", place % 3 ? birth : [])));
     children.forEach((child, place) => {
         for (let marriage = 0; marriage < place % 4; marriage += 1) {
             const wife = family.person(`Wife ${marriage} ${longNames[(place + marriage) % longNames.length]}`, "F", birth);
-            family.family(child, wife, Array.from({ length: (place + marriage) % 6 }, (_, number) => family.person(`Grandchild ${place}.${marriage}.${number} /Root/`, "F")));
+            family.family(child, wife, Array.from({ length: (place + marriage) % 6 }, (_, number) => family.person(`Grandchild ${place}.${marriage}.${number} /Trunk/`, "F")));
         }
     });
     for (let heir = children[4], generation = 3; generation <= 9; generation += 1) {
-        [heir] = family.family(heir, family.person(`Wife /Of ${generation}/`, "F"), [family.person(`Heir ${generation} /Root/`, "M", birth)]);
+        [heir] = family.family(heir, family.person(`Wife /Of ${generation}/`, "F"), [family.person(`Heir ${generation} /Trunk/`, "M", birth)]);
     }
     return family;
 }
