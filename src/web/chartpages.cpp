@@ -92,7 +92,8 @@ private:
         for (const BoxNumber box : stripe.boxes) {
             const PlacedBox& place = layout.boxes[box];
             appendNumber("<DIV CLASS=\"cell\" STYLE=\"left:", place.left);
-            appendNumber("px;top:", place.middle() - stripe.top);
+            appendNumber("px;top:", place.top - stripe.top);
+            appendNumber("px;bottom:", stripe.bottom - place.bottom());
             appendNumber("px;width:", place.width);
             page().append("px\">").append(m_cells.html(box));
             m_file.line("</DIV>");
