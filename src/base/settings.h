@@ -67,6 +67,12 @@ inline const QString gedcomPath = QStringLiteral("GedcomPath");
 inline const QString exportWizard = QStringLiteral("ExportWizard");
 /// "0" when the dialog that ends a site build is not to be shown.
 inline const QString confirmScreen = QStringLiteral("ConfirmScreen");
+/// What uploading a site would need to know.
+inline const QString ftp = QStringLiteral("FTP");
+inline const QString ftpServer = QStringLiteral("Server");
+inline const QString ftpUsername = QStringLiteral("Username");
+inline const QString ftpPassword = QStringLiteral("Password");
+inline const QString ftpRootSubdir = QStringLiteral("RootSubdir");
 } // namespace setting
 
 } // namespace stemwright
