@@ -71,7 +71,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override
     {
         const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        if (!isReturn || !(lstCatalogue->hasFocus() || hfgItems->hasFocus())) {
+        if (!isReturn || (focusWidget() != lstCatalogue && focusWidget() != hfgItems)) {
             QDialog::keyPressEvent(event);
         }
     }

@@ -24,16 +24,13 @@ namespace
 
 /// The browser wants a graphics context that all windows share, before its library is loaded. Qt would make it when the
 /// program starts (Qt::AA_ShareOpenGLContexts), which takes a quarter of a second, whether or not a site is ever looked
-/// at. Without any graphics driver there is none, and the browser draws by itself.
+/// at. Without any graphics driver the context is not valid, from which the browser sees that it has to draw by itself.
 void PrepareGraphics()
 {
     if (qt_gl_global_share_context() == nullptr) {
         auto* context = new QOpenGLContext(QCoreApplication::instance());
-        if (context->create()) {
-            qt_gl_set_global_share_context(context);
-        } else {
-            delete context;
-        }
+        context->create();
+        qt_gl_set_global_share_context(context);
     }
 }
 
