@@ -10,10 +10,13 @@
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QRadioButton>
+#include <QtWidgets/QTableView>
 
 namespace stemwright
 {
@@ -97,6 +100,37 @@ QLineEdit* MakeLine(const char* name, const QString& toolTip)
     line->setToolTip(toolTip);
     line->setMaxLength(longestPaste);
     return line;
+}
+
+QTableView* MakeGrid(const char* name, const QString& purpose, QAbstractItemModel& model)
+{
+    auto* grid = new QTableView;
+    grid->setObjectName(QLatin1StringView(name));
+    grid->setAccessibleName(purpose);
+    grid->setModel(&model);
+    grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+    grid->setSelectionMode(QAbstractItemView::SingleSelection);
+    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    grid->setAlternatingRowColors(true);
+    grid->setShowGrid(false);
+    grid->setWordWrap(false);
+    grid->setTabKeyNavigation(false);
+    grid->verticalHeader()->hide();
+    grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 6);
+    grid->horizontalHeader()->setHighlightSections(false);
+    grid->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    LetCopy(*grid);
+    return grid;
+}
+
+QHBoxLayout* MakeRow(std::initializer_list<QWidget*> controls)
+{
+    auto* row = new QHBoxLayout;
+    for (QWidget* control : controls) {
+        row->addWidget(control);
+    }
+    return row;
 }
 
 QDialogButtonBox* MakeOkCancel(QDialog& window)

@@ -5,12 +5,15 @@
 #include <QtCore/QString>
 #include <QtWidgets/QDialog>
 
+class QAbstractItemModel;
 class QAbstractItemView;
 class QDialogButtonBox;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QTableView;
 
 /// What the windows make again and again: controls with their object name, caption and tooltip, and windows that come
 /// back where they were. Nothing here fails.
@@ -27,6 +30,12 @@ QLabel* MakeLabel(const char* name, const QString& text = {});
 /// A line of text. It takes whatever is pasted: what is too long for the family file is refused by name when it is
 /// applied, not cut silently.
 QLineEdit* MakeLine(const char* name, const QString& toolTip = {});
+
+/// A grid that shows the rows of `model` as whole lines, one of which is selected, and lets them be copied. `purpose`
+/// is what a screen reader says.
+QTableView* MakeGrid(const char* name, const QString& purpose, QAbstractItemModel& model);
+/// Controls side by side.
+QHBoxLayout* MakeRow(std::initializer_list<QWidget*> controls);
 
 /// OK (`cmdOK`) and Cancel (`cmdCancel`) that accept and reject the window.
 QDialogButtonBox* MakeOkCancel(QDialog& window);

@@ -107,7 +107,7 @@ void frmAlbum::connectActions()
     act(m_actions->mnuCreateWebPages, [this] { createWebPages(); });
     act(m_actions->mnuViewWebPages, [this] { ViewWebPages(m_file.connection(), m_environment, this); });
     act(m_actions->mnuUploadWebPages, [this] { ShowUpload(m_file.connection(), m_environment, this); });
-    act(m_actions->mnuHelp, [this] { ShowHelp(m_environment, FrontHelpPage()); });
+    act(m_actions->mnuHelp, [this] { ShowHelp(m_environment, FrontHelpPage(m_environment)); });
     act(m_actions->mnuAbout, [this] { ShowAbout(m_environment.application, *this); });
     act(m_actions->actFirst, [this] { m_browser->goToRow(0); });
     act(m_actions->actPrevious, [this] { m_browser->goToRow(m_browser->row() - 1); });
@@ -352,13 +352,13 @@ void frmAlbum::showPosition()
         lblPosition->clear();
         break;
     case AlbumState::EmptyList:
-        lblPosition->setText(QStringLiteral("No pictures"));
+        lblPosition->setText(appmessages::NoPictures());
         break;
     case AlbumState::Browsing:
-        lblPosition->setText(QStringLiteral("Picture %1 of %2").arg(m_browser->row() + 1).arg(m_browser->rowCount()));
+        lblPosition->setText(appmessages::PicturePosition(m_browser->row() + 1, m_browser->rowCount()));
         break;
     case AlbumState::Editing:
-        lblPosition->setText(QStringLiteral("Editing"));
+        lblPosition->setText(appmessages::EditingRecord());
         break;
     }
 }

@@ -30,12 +30,10 @@ QString ControlName(const char* kind, const QString& column)
     return QLatin1StringView(kind) + column;
 }
 
+/// Controls side by side, as wide as they need to be.
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls)
 {
-    auto* row = new QHBoxLayout;
-    for (QWidget* control : controls) {
-        row->addWidget(control);
-    }
+    QHBoxLayout* row = MakeRow(controls);
     row->addStretch();
     return row;
 }

@@ -16,20 +16,33 @@
 namespace stemwright
 {
 
+namespace
+{
+
+QString PagePath(const Environment& environment, const QString& page)
+{
+    return environment.application.file(QStringLiteral("manual/%1.html").arg(page));
+}
+
+} // namespace
+
 void ShowHelp(Environment& environment, const QString& page)
 {
-    const QString manual = environment.application.file(QStringLiteral("manual/"));
-    const QString wanted = manual + page + QStringLiteral(".html");
-    const QString path = QFileInfo::exists(wanted) ? wanted : manual + QStringLiteral("index.html");
+    const QString path = PagePath(environment, page);
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path))) {
         environment.talk.tell(appmessages::CannotOpenHelp(QDir::toNativeSeparators(path)));
     }
 }
 
-QString FrontHelpPage()
+QString FrontHelpPage(const Environment& environment)
 {
-    const QWidget* window = FrontWindow();
-    return window != nullptr ? window->objectName().toLower() : QStringLiteral("index");
+    for (const QWidget* window = FrontWindow(); window != nullptr; window = window->parentWidget()) {
+        const QString page = window->objectName().toLower();
+        if (!page.isEmpty() && QFileInfo::exists(PagePath(environment, page))) {
+            return page;
+        }
+    }
+    return QStringLiteral("index");
 }
 
 HelpKey::HelpKey(Environment& environment) : m_environment(environment)
@@ -44,7 +57,7 @@ bool HelpKey::eventFilter(QObject* watched, QEvent* event)
         static_cast<QKeyEvent*>(event)->key() != Qt::Key_F1) {
         return false;
     }
-    ShowHelp(m_environment, FrontHelpPage());
+    ShowHelp(m_environment, FrontHelpPage(m_environment));
     return true;
 }
 

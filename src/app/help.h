@@ -14,8 +14,8 @@ namespace stemwright
 /// where the manual lies.
 void ShowHelp(Environment& environment, const QString& page);
 
-/// The page about the window that is in front.
-QString FrontHelpPage();
+/// The page about the window that is in front; about a message or a progress window, that of the window it belongs to.
+QString FrontHelpPage(const Environment& environment);
 
 /// Makes F1 open the page about the window in which it is pressed. `environment` must outlive it.
 class HelpKey : public QObject

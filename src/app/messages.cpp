@@ -28,6 +28,21 @@ QString NoFile()
     return QStringLiteral("No family file is open. Use File > New Family File or File > Open Family File.");
 }
 
+QString NoPictures()
+{
+    return QStringLiteral("No pictures");
+}
+
+QString PicturePosition(int picture, int pictures)
+{
+    return QStringLiteral("Picture %1 of %2").arg(picture).arg(pictures);
+}
+
+QString EditingRecord()
+{
+    return QStringLiteral("Editing");
+}
+
 QString CannotShowPicture(const QString& reason)
 {
     return QStringLiteral("The picture cannot be shown.\n\n") + reason;

@@ -13,6 +13,11 @@ QString NoPicture();
 QString NoPictureYet();
 QString EmptyList();
 QString NoFile();
+/// Where the window is, for the status bar: in a list without pictures, at one of them (counted from 1), or editing.
+QString NoPictures();
+QString PicturePosition(int picture, int pictures);
+QString EditingRecord();
+
 QString CannotShowPicture(const QString& reason);
 
 // A record that does not open or cannot be written. Reasons are whole sentences.

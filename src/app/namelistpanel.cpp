@@ -67,25 +67,12 @@ void NameListModel::sorted()
 NameListPanel::NameListPanel(NameIndex& index, const char* gridName, std::vector<NameListColumn> columns,
                              HeaderClicks clicks, Talk& talk)
     : m_index(index), m_talk(talk), m_search(index), m_columns(columns),
-      m_model(new NameListModel(index, std::move(columns), this)), m_grid(new QTableView), txtName(MakeLine("txtName")),
+      m_model(new NameListModel(index, std::move(columns), this)),
+      m_grid(MakeGrid(gridName, QStringLiteral("Index of names"), *m_model)), txtName(MakeLine("txtName")),
       cmdFind(MakeButton("cmdFind", QStringLiteral("&Find..."))),
       cmdNext(MakeButton("cmdNext", QStringLiteral("Ne&xt"))),
       cmdPrevious(MakeButton("cmdPrevious", QStringLiteral("&Previous")))
 {
-    m_grid->setObjectName(QLatin1StringView(gridName));
-    m_grid->setAccessibleName(QStringLiteral("Index of names"));
-    m_grid->setModel(m_model);
-    m_grid->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_grid->setAlternatingRowColors(true);
-    m_grid->setShowGrid(false);
-    m_grid->setWordWrap(false);
-    m_grid->setTabKeyNavigation(false);
-    m_grid->verticalHeader()->hide();
-    m_grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_grid->verticalHeader()->setDefaultSectionSize(m_grid->fontMetrics().height() + 6);
-    m_grid->horizontalHeader()->setHighlightSections(false);
-    m_grid->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (std::size_t column = 0; column < m_columns.size(); ++column) {
         const int section = static_cast<int>(column);
         const bool isName = m_columns[column].column == NameColumn::Name;
@@ -93,16 +80,11 @@ NameListPanel::NameListPanel(NameIndex& index, const char* gridName, std::vector
                                                          isName ? QHeaderView::Stretch : QHeaderView::Interactive);
         m_grid->setColumnWidth(section, m_grid->fontMetrics().averageCharWidth() * 16);
     }
-    LetCopy(*m_grid);
 
     auto* label = new QLabel(QStringLiteral("&Name:"));
     label->setBuddy(txtName);
-    auto* search = new QHBoxLayout;
-    search->addWidget(label);
-    search->addWidget(txtName, 1);
-    search->addWidget(cmdFind);
-    search->addWidget(cmdNext);
-    search->addWidget(cmdPrevious);
+    QHBoxLayout* search = MakeRow({label, txtName, cmdFind, cmdNext, cmdPrevious});
+    search->setStretchFactor(txtName, 1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(search);

@@ -20,34 +20,20 @@
 namespace stemwright
 {
 
-namespace
-{
-
-QHBoxLayout* Row(std::initializer_list<QWidget*> controls)
-{
-    auto* row = new QHBoxLayout;
-    for (QWidget* control : controls) {
-        row->addWidget(control);
-    }
-    return row;
-}
-
-} // namespace
-
 PersonsPanel::PersonsPanel(PictureView& view, Environment& environment, QWidget* parent)
     : QWidget(parent), m_view(view), m_environment(environment),
       fraPointerTool(new QGroupBox(QStringLiteral("Pointer Tool"))),
       optRectangle(MakeOption("optRectangle", QStringLiteral("&Rectangle"))),
-      optArrow(MakeOption("optArrow", QStringLiteral("Arro&w"))), hfgPersons(new QListWidget),
+      optArrow(MakeOption("optArrow", QStringLiteral("Arr&ow"))), hfgPersons(new QListWidget),
       lblHint(MakeLabel("lblHint")), txtName(MakeLine("txtName", QStringLiteral("Name of a person in the picture"))),
       cmdShowIndex(MakeButton("cmdShowIndex", QStringLiteral("Inde&x..."), QStringLiteral("Display index of names"))),
-      cmdShowPointer(MakeButton("cmdShowPointer", QStringLiteral("Sh&ow Pointer"))),
+      cmdShowPointer(MakeButton("cmdShowPointer", QStringLiteral("Show Poi&nter"))),
       cmdHidePointer(MakeButton("cmdHidePointer", QStringLiteral("Hide Poi&nter"))),
       cmdOKName(MakeButton("cmdOKName", QStringLiteral("O&K Add/Edit"))),
       cmdCancelName(MakeButton("cmdCancelName", QStringLiteral("&Cancel Add/Edit"))),
-      cmdEditName(MakeButton("cmdEditName", QStringLiteral("Edit"), QStringLiteral("Edit the selected name"))),
+      cmdEditName(MakeButton("cmdEditName", QStringLiteral("Ed&it"), QStringLiteral("Edit the selected name"))),
       cmdRemove(
-          MakeButton("cmdRemove", QStringLiteral("Remove"), QStringLiteral("Remove the selected name from the list"))),
+          MakeButton("cmdRemove", QStringLiteral("Re&move"), QStringLiteral("Remove the selected name from the list"))),
       lblPointerHint(MakeLabel("lblPointerHint", albummessages::dragThePointer))
 {
     hfgPersons->setObjectName(QStringLiteral("hfgPersons"));
@@ -74,12 +60,12 @@ void PersonsPanel::layOut()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(fraPointerTool);
     layout->addWidget(hfgPersons, 1);
-    layout->addLayout(Row({cmdEditName, cmdRemove}));
+    layout->addLayout(MakeRow({cmdEditName, cmdRemove}));
     layout->addWidget(lblHint);
-    layout->addLayout(Row({txtName, cmdShowIndex}));
-    layout->addLayout(Row({cmdShowPointer, cmdHidePointer}));
+    layout->addLayout(MakeRow({txtName, cmdShowIndex}));
+    layout->addLayout(MakeRow({cmdShowPointer, cmdHidePointer}));
     layout->addWidget(lblPointerHint);
-    layout->addLayout(Row({cmdOKName, cmdCancelName}));
+    layout->addLayout(MakeRow({cmdOKName, cmdCancelName}));
 }
 
 void PersonsPanel::connectControls()

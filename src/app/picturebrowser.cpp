@@ -47,29 +47,13 @@ public:
     }
 };
 
-QTableView* MakeGrid(PictureTableModel& model)
+QTableView* MakeContents(PictureTableModel& model)
 {
-    auto* grid = new QTableView;
-    grid->setObjectName(QStringLiteral("dtgTOC"));
-    grid->setAccessibleName(QStringLiteral("Table of contents"));
-    grid->setModel(&model);
-    grid->setSelectionBehavior(QAbstractItemView::SelectRows);
-    grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    grid->setAlternatingRowColors(true);
-    grid->setShowGrid(false);
-    grid->setWordWrap(false);
-    grid->setTabKeyNavigation(false);
-    grid->verticalHeader()->hide();
-    grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 6);
-    grid->horizontalHeader()->setHighlightSections(false);
-    grid->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    QTableView* grid = MakeGrid("dtgTOC", QStringLiteral("Table of contents"), model);
     grid->horizontalHeader()->setSectionsClickable(true);
     grid->horizontalHeader()->setStretchLastSection(true);
     // Widths go by the first rows; a thousand of them, as is usual, take as long as all the rest of opening a file.
     grid->horizontalHeader()->setResizeContentsPrecision(50);
-    LetCopy(*grid);
     return grid;
 }
 
@@ -93,7 +77,7 @@ QListView* MakeGallery(PictureTableModel& model)
 } // namespace
 
 PictureBrowser::PictureBrowser(QWidget* parent)
-    : QWidget(parent), m_model(new PictureTableModel(this)), dtgTOC(MakeGrid(*m_model)),
+    : QWidget(parent), m_model(new PictureTableModel(this)), dtgTOC(MakeContents(*m_model)),
       picTGallery(MakeGallery(*m_model)), m_views(new QStackedLayout(this))
 {
     // One selection for both views.

@@ -59,7 +59,7 @@ RecordEditor::RecordEditor(Environment& environment, QWidget* parent)
       m_view(new PictureView(environment.application.file(QStringLiteral("ArrowPointer.gif")), this)),
       m_persons(new PersonsPanel(*m_view, environment, this)),
       cmdApply(
-          MakeButton("cmdApply", QStringLiteral("Apply"), QStringLiteral("Write new/modified record to the album"))),
+          MakeButton("cmdApply", QStringLiteral("Appl&y"), QStringLiteral("Write new/modified record to the album"))),
       cmdCancel(MakeButton("cmdCancel", QStringLiteral("Cancel"), QStringLiteral("Discard the changes")))
 {
     auto* record = new QWidget;

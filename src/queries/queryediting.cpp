@@ -47,6 +47,13 @@ QString StoredTime(const QString& column, const QString& typed)
     }
 }
 
+/// A stored time as one would type it.
+QString TypedTime(QString stored)
+{
+    static const QString midnight = QStringLiteral("T00:00:00");
+    return stored.endsWith(midnight) ? stored.chopped(midnight.size()) : stored.replace(u'T', u' ');
+}
+
 /// What the column stores for a typed text, Null as a null text.
 QString StoredValue(const ColumnDefinition& column, const QString& typed)
 {
@@ -152,7 +159,7 @@ QString QueryEditing::valueText(const QString& columnName) const
     if (column.type == ColumnType::YesNo) {
         return values.yes(column.name) ? QStringLiteral("1") : QStringLiteral("0");
     }
-    return values.text(column.name);
+    return column.type == ColumnType::Date ? TypedTime(values.text(column.name)) : values.text(column.name);
 }
 
 QString QueryEditing::dateText(const QString& columnName) const
