@@ -127,6 +127,16 @@ bool SetupEditing::leavePage(WizardPage page)
     return true;
 }
 
+bool SetupEditing::isComplete() const
+{
+    Setup complete = setup();
+    if (const std::optional<TreeDefinition>& edited = m_trees.edited()) {
+        const auto isEdited = [&edited](const TreeDefinition& tree) { return tree.number == edited->number; };
+        std::replace_if(complete.trees.begin(), complete.trees.end(), isEdited, *edited);
+    }
+    return !CheckSetup(complete);
+}
+
 bool SetupEditing::save()
 {
     try {
