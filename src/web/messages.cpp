@@ -269,6 +269,14 @@ std::array<QString, 3> WebPagesCreatedTexts(const QString& folder)
             QStringLiteral("and double-click index.html.")};
 }
 
+Message BuildStopped()
+{
+    return {BuildingWebPages(),
+            QStringLiteral("Building your web pages was stopped. What is in the output folder is only a part of them: "
+                           "please build them again before you use them."),
+            Icon::Warning};
+}
+
 Message CannotBuild(const QString& reason)
 {
     return {BuildingWebPages(), reason, Icon::Critical};

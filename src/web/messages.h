@@ -59,6 +59,8 @@ QString TreesHaveHeads(const QString& setupName);
 Message WebPagesCreated(const QString& folder);
 /// Its lines: how to view the pages, where they are, and what to do there.
 std::array<QString, 3> WebPagesCreatedTexts(const QString& folder);
+/// What was written is only a part of the site.
+Message BuildStopped();
 Message CannotBuild(const QString& reason);
 
 } // namespace stemwright::webmessages
