@@ -5,6 +5,7 @@
 #include "app/controls.h"
 #include "app/frmwebbrowser.h"
 #include "web/messages.h"
+#include "web/sitebuild.h"
 
 #include <QtCore/QFileInfo>
 #include <QtGui/QIcon>
@@ -51,10 +52,8 @@ public:
         browser->setDefault(true);
         connect(browser, &QPushButton::clicked, this, [this, index] { ShowWebBrowser(index, m_environment, this); });
         connect(ok, &QPushButton::clicked, this, &frmConfirm::accept);
-        auto* buttons = new QHBoxLayout;
-        buttons->addStretch();
-        buttons->addWidget(browser);
-        buttons->addWidget(ok);
+        QHBoxLayout* buttons = MakeRow({browser, ok});
+        buttons->insertStretch(0);
 
         auto* layout = new QGridLayout(this);
         layout->setContentsMargins(16, 16, 16, 12);
@@ -84,7 +83,7 @@ private:
 
 void ConfirmWebPages(const QString& index, Environment& environment, QWidget* parent)
 {
-    if (environment.settings.value(setting::exportWizard, setting::confirmScreen) != QStringLiteral("0")) {
+    if (WantsConfirmation(environment.settings)) {
         frmConfirm(index, environment, parent).exec();
     }
 }

@@ -11,13 +11,13 @@
 #include "web/itemselection.h"
 #include "web/setupmessages.h"
 
-#include <QtGui/QKeyEvent>
+#include <QtGui/QStandardItemModel>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTableWidget>
+#include <QtWidgets/QTableView>
 
 namespace stemwright
 {
@@ -67,11 +67,10 @@ public:
     }
 
 protected:
-    /// Return in a list acts on its entry; OK is not meant.
+    /// Return in a list does not mean OK.
     void keyPressEvent(QKeyEvent* event) override
     {
-        const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        if (!isReturn || (focusWidget() != lstCatalogue && focusWidget() != hfgItems)) {
+        if (!IsReturnInList(*event, *this)) {
             QDialog::keyPressEvent(event);
         }
     }
@@ -80,6 +79,7 @@ private:
     void prepareLists()
     {
         lstCatalogue->setObjectName(QStringLiteral("lstCatalogue"));
+        lstCatalogue->setAccessibleName(QStringLiteral("All items"));
         for (const SelectedItem& item : m_catalogue) {
             auto* entry = new QListWidgetItem(item.name, lstCatalogue);
             entry->setToolTip(appmessages::OriginOfItem(item.table));
@@ -88,23 +88,15 @@ private:
         LetCopy(*lstCatalogue);
         connect(lstCatalogue, &QListWidget::itemActivated, this, &frmItemsToInclude::add);
 
-        hfgItems->setObjectName(QStringLiteral("hfgItems"));
-        hfgItems->setColumnCount(static_cast<int>(Captions().size()));
+        m_model.setHorizontalHeaderLabels(Captions());
         auto* header = new GroupedHeader(firstOfTree, lastOfTree, QStringLiteral("Family Tree Display"), hfgItems);
         hfgItems->setHorizontalHeader(header);
-        hfgItems->setHorizontalHeaderLabels(Captions());
         header->setSectionResizeMode(QHeaderView::ResizeToContents);
         header->setSectionResizeMode(0, QHeaderView::Stretch);
-        header->setSectionsClickable(false);
-        hfgItems->verticalHeader()->hide();
-        hfgItems->setSelectionBehavior(QAbstractItemView::SelectRows);
-        hfgItems->setSelectionMode(QAbstractItemView::SingleSelection);
-        hfgItems->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        hfgItems->setTabKeyNavigation(false);
-        hfgItems->setWordWrap(false);
-        LetCopy(*hfgItems);
-        connect(hfgItems, &QTableWidget::itemActivated, this, &frmItemsToInclude::editOptions);
-        connect(hfgItems, &QTableWidget::currentCellChanged, this, &frmItemsToInclude::setButtons);
+        header->setHighlightSections(false);
+        connect(hfgItems, &QTableView::activated, this, &frmItemsToInclude::editOptions);
+        connect(hfgItems->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+                &frmItemsToInclude::setButtons);
     }
 
     void layOut()
@@ -132,26 +124,23 @@ private:
         layout->addWidget(MakeOkCancel(*this));
     }
 
-    int row() const { return hfgItems->currentRow(); }
+    int row() const { return hfgItems->currentIndex().row(); }
 
     /// Shows the items and goes to one of them.
     void fill(int wanted)
     {
-        const std::vector<SelectedItem>& items = m_selection.items();
-        hfgItems->setRowCount(static_cast<int>(items.size()));
-        for (int row = 0; row < hfgItems->rowCount(); ++row) {
-            const SelectedItem& item = items[static_cast<std::size_t>(row)];
-            const QStringList cells = CellsOf(item);
-            for (int column = 0; column < cells.size(); ++column) {
-                auto* cell = new QTableWidgetItem(cells[column]);
+        m_model.setRowCount(0);
+        for (const SelectedItem& item : m_selection.items()) {
+            QList<QStandardItem*> cells;
+            for (const QString& text : CellsOf(item)) {
+                auto* cell = new QStandardItem(text);
                 cell->setToolTip(appmessages::OriginOfItem(item.table));
-                if (column > 0) {
-                    cell->setTextAlignment(Qt::AlignCenter);
-                }
-                hfgItems->setItem(row, column, cell);
+                cell->setTextAlignment(cells.isEmpty() ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter);
+                cells << cell;
             }
+            m_model.appendRow(cells);
         }
-        hfgItems->setCurrentCell(std::min(wanted, hfgItems->rowCount() - 1), 0);
+        hfgItems->setCurrentIndex(m_model.index(std::min(wanted, m_model.rowCount() - 1), 0));
         setButtons();
     }
 
@@ -181,15 +170,16 @@ private:
     {
         attempt([this] {
             if (m_selection.add(m_catalogue[static_cast<std::size_t>(lstCatalogue->currentRow())])) {
-                fill(hfgItems->rowCount());
+                fill(m_model.rowCount());
             }
         });
     }
 
     void remove()
     {
-        m_selection.remove(row());
-        fill(row());
+        const int removed = row();
+        m_selection.remove(removed);
+        fill(removed);
     }
 
     void moveUp() { fill(m_selection.moveUp(row())); }
@@ -216,7 +206,8 @@ private:
     std::vector<SelectedItem> m_catalogue;
     ItemSelection m_selection;
     QListWidget* lstCatalogue = new QListWidget;
-    QTableWidget* hfgItems = new QTableWidget;
+    QStandardItemModel m_model;
+    QTableView* hfgItems = MakeGrid("hfgItems", QStringLiteral("Items of the setup"), m_model);
     QPushButton* cmdAdd = MakeButton("cmdAdd", QStringLiteral("&Add >"));
     QPushButton* cmdRemove = MakeButton("cmdRemove", QStringLiteral("< &Remove"));
     QPushButton* cmdUp = MakeButton("cmdUp", QStringLiteral("&Up"));

@@ -13,7 +13,6 @@
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
-#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
@@ -62,8 +61,7 @@ protected:
     /// Return in a list acts on its entry; the next page is not meant.
     void keyPressEvent(QKeyEvent* event) override
     {
-        const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        if (!isReturn || qobject_cast<QAbstractItemView*>(focusWidget()) == nullptr) {
+        if (!IsReturnInList(*event, *this)) {
             QDialog::keyPressEvent(event);
         }
     }

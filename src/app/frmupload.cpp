@@ -4,6 +4,7 @@
 
 #include "app/controls.h"
 #include "app/messages.h"
+#include "app/notice.h"
 #include "store/engine/engineerror.h"
 #include "web/setupmessages.h"
 #include "web/upload.h"
@@ -11,7 +12,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFormLayout>
-#include <QtWidgets/QLabel>
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
@@ -66,9 +67,7 @@ private:
 
     void layOut()
     {
-        auto* port = new QHBoxLayout;
-        port->addWidget(spnPort);
-        port->addWidget(chkDefaultPort);
+        QHBoxLayout* port = MakeRow({spnPort, chkDefaultPort});
         port->addStretch();
         auto* form = new QFormLayout;
         form->addRow(QStringLiteral("&FTP Server:"), txtServer);
@@ -86,14 +85,11 @@ private:
         upload->setEnabled(dcbSites->count() > 0);
         connect(save, &QPushButton::clicked, this, [this] { CheckUploadSettings(settings(), m_talk); });
         connect(close, &QPushButton::clicked, this, &frmUpload::reject);
-        auto* buttons = new QHBoxLayout;
-        buttons->addStretch();
-        for (QPushButton* button : {save, upload, close}) {
-            buttons->addWidget(button);
-        }
+        QHBoxLayout* buttons = MakeRow({save, upload, close});
+        buttons->insertStretch(0);
 
-        QLabel* explanation = MakeLabel("lblExplanation", appmessages::UploadExplanation());
-        explanation->setWordWrap(true);
+        auto* explanation = new Notice(QStringLiteral("lblExplanation"));
+        explanation->setText(appmessages::UploadExplanation());
         auto* layout = new QVBoxLayout(this);
         layout->addWidget(explanation);
         layout->addSpacing(8);

@@ -74,13 +74,9 @@ private:
         connect(cmdBack, &QPushButton::clicked, this, [this] { m_view->back(); });
         connect(cmdFwd, &QPushButton::clicked, this, [this] { m_view->forward(); });
         connect(close, &QPushButton::clicked, this, &frmWebBrowser::reject);
-        auto* lower = new QHBoxLayout;
+        QHBoxLayout* lower = MakeRow({cmdBack, cmdFwd, lblStatusLine, close});
         lower->setContentsMargins(8, 0, 8, 6);
-        for (QPushButton* button : {cmdBack, cmdFwd}) {
-            lower->addWidget(button);
-        }
-        lower->addWidget(lblStatusLine, 1);
-        lower->addWidget(close);
+        lower->setStretchFactor(lblStatusLine, 1);
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(&m_view->widget(), 1);
@@ -92,15 +88,16 @@ private:
         const auto add = [this](const QKeySequence& keys, auto action) {
             connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
         };
+        const auto enlarge = [this](double factor) { m_view->setZoom(m_view->zoom() * factor); };
         add(Qt::ALT | Qt::Key_Left, [this] { cmdBack->click(); });
         add(Qt::ALT | Qt::Key_Right, [this] { cmdFwd->click(); });
         add(Qt::Key_F5, [this] { m_view->reload(); });
         add(Qt::Key_Escape, [this] { reject(); });
         add(Qt::CTRL | Qt::Key_W, [this] { reject(); });
-        add(QKeySequence::ZoomIn, [this] { m_view->setZoom(m_view->zoom() * zoomStep); });
+        add(QKeySequence::ZoomIn, [enlarge] { enlarge(zoomStep); });
         // The plus sign of most keyboards without Shift.
-        add(Qt::CTRL | Qt::Key_Equal, [this] { m_view->setZoom(m_view->zoom() * zoomStep); });
-        add(QKeySequence::ZoomOut, [this] { m_view->setZoom(m_view->zoom() / zoomStep); });
+        add(Qt::CTRL | Qt::Key_Equal, [enlarge] { enlarge(zoomStep); });
+        add(QKeySequence::ZoomOut, [enlarge] { enlarge(1 / zoomStep); });
         add(Qt::CTRL | Qt::Key_0, [this] { m_view->setZoom(1); });
     }
 

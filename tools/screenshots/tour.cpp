@@ -80,6 +80,7 @@ void Tour::album(const QString& familyFile)
     files();
     menus();
     wizard();
+    webPages();
     import();
 }
 

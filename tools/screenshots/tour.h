@@ -30,6 +30,9 @@ private:
     void import();
     void menus();
     void wizard();
+    void webPages();
+    void items(QWidget& wizard);
+    void build(QWidget& wizard);
 
     void trigger(const char* action);
     void press(QWidget& window, const char* button);
