@@ -21,7 +21,8 @@ namespace
 {
 
 constexpr int signSize = 64;
-constexpr int textWidth = 440;
+constexpr int spacing = 12;
+constexpr int textWidth = 500;
 
 class frmConfirm : public QDialog
 {
@@ -54,11 +55,11 @@ public:
         connect(ok, &QPushButton::clicked, this, &frmConfirm::accept);
         QHBoxLayout* buttons = MakeRow({browser, ok});
         buttons->insertStretch(0);
+        texts->addStretch();
 
         auto* layout = new QGridLayout(this);
         layout->setContentsMargins(16, 16, 16, 12);
-        layout->setHorizontalSpacing(16);
-        layout->setVerticalSpacing(12);
+        layout->setSpacing(spacing);
         layout->addWidget(sign, 0, 0, Qt::AlignTop);
         layout->addLayout(texts, 0, 1);
         layout->addWidget(chkDontShow, 1, 1);

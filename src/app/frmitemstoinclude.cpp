@@ -51,7 +51,7 @@ public:
     {
         setObjectName(QStringLiteral("frmItemsToInclude"));
         setWindowTitle(QStringLiteral("Items to Include"));
-        ResizeForLetters(*this, 900, 480);
+        ResizeForLetters(*this, 1000, 480);
         prepareLists();
         layOut();
         fill(0);
@@ -112,9 +112,9 @@ private:
             return buttons;
         };
         auto* lists = new QHBoxLayout;
-        lists->addWidget(lstCatalogue, 1);
+        lists->addWidget(lstCatalogue, 2);
         lists->addLayout(column({{cmdAdd, &frmItemsToInclude::add}, {cmdRemove, &frmItemsToInclude::remove}}));
-        lists->addWidget(hfgItems, 3);
+        lists->addWidget(hfgItems, 7);
         lists->addLayout(column({{cmdUp, &frmItemsToInclude::moveUp},
                                  {cmdDown, &frmItemsToInclude::moveDown},
                                  {cmdOptions, &frmItemsToInclude::editOptions}}));

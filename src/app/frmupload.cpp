@@ -13,6 +13,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
@@ -34,7 +35,7 @@ public:
     {
         setObjectName(QStringLiteral("frmUpload"));
         setWindowTitle(QStringLiteral("Upload Web Pages"));
-        ResizeForLetters(*this, 480, 380);
+        ResizeForLetters(*this, 480, 340);
         prepareControls(sites);
         layOut();
         show(LoadUploadSettings(environment.settings));
@@ -71,7 +72,9 @@ private:
         port->addStretch();
         auto* form = new QFormLayout;
         form->addRow(QStringLiteral("&FTP Server:"), txtServer);
-        form->addRow(QStringLiteral("P&ort:"), port);
+        auto* portLabel = new QLabel(QStringLiteral("P&ort:"));
+        portLabel->setBuddy(spnPort);
+        form->addRow(portLabel, port);
         form->addRow(QStringLiteral("User&name:"), txtUsername);
         form->addRow(QStringLiteral("&Password:"), txtPassword);
         form->addRow(QStringLiteral("&Root directory for all sites (optional):"), txtRootSubdir);
