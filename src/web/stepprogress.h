@@ -7,7 +7,7 @@
 #include <chrono>
 
 /// Shows how a step of the build proceeds, and ends it where the user wishes to stop. Reports come for every record,
-/// but only some twenty-five a second reach the display, with a caption that is made only then, so that reporting costs
+/// but only some ten a second reach the display, with a caption that is made only then, so that reporting costs
 /// nothing.
 namespace stemwright
 {
@@ -42,7 +42,7 @@ public:
     }
 
 private:
-    static constexpr std::chrono::milliseconds betweenReports{40};
+    static constexpr std::chrono::milliseconds betweenReports{100};
 
     Progress& m_progress;
     QString m_caption;
