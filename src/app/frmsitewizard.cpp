@@ -141,7 +141,12 @@ private:
         }
         lstPages->setCurrentRow(number);
         setButtons();
-        (number == last() ? cmdFinish : cmdNext)->setDefault(true);
+        QPushButton* main = number == last() ? cmdFinish : cmdNext;
+        main->setDefault(true);
+        if (!lstPages->hasFocus()) {
+            QWidget* first = page(number).firstControl();
+            (first != nullptr ? first : main)->setFocus();
+        }
     }
 
     void setButtons()

@@ -8,6 +8,7 @@
 #include "store/engine/engineerror.h"
 #include "web/setupmessages.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
@@ -53,6 +54,26 @@ void WizardForm::refresh()
     for (const auto& show : m_shows) {
         show();
     }
+}
+
+QWidget* WizardForm::firstControl() const
+{
+    for (QWidget* control : findChildren<QWidget*>()) {
+        if ((control->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && control->isEnabled()) {
+            return control;
+        }
+    }
+    return nullptr;
+}
+
+bool WizardForm::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* control = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::Wheel && control != nullptr && !control->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 bool WizardForm::settle()
@@ -146,6 +167,8 @@ QSpinBox* WizardForm::number(const char* column)
     auto* box = new QSpinBox;
     box->setObjectName(ControlName("spn", column));
     box->setRange(definition.lowest, definition.highest);
+    box->setFocusPolicy(Qt::StrongFocus);
+    box->installEventFilter(this);
     connect(box, &QSpinBox::valueChanged, this, [this, column](int value) {
         if (!m_showing) {
             change([this, column, value] { m_context.editing.set(QLatin1StringView(column), QString::number(value)); });

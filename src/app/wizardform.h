@@ -43,8 +43,14 @@ public:
     /// Shows the setup as it is now.
     virtual void refresh();
 
+    /// The control with which the page begins; null when it has none.
+    QWidget* firstControl() const;
+
     /// False, after the user was told, while a text stands here that was refused.
     bool settle();
+
+    /// Leaves a number alone while the wheel only passes over it on its way down the page.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
     const WizardContext& context() const { return m_context; }

@@ -147,7 +147,7 @@ TEST_F(WizardTest, FromANewSetupToTheFinishedSiteOfTheSample)
             hand.answer("The output folder");
             hand.at("frmConfirm", [&](QWidget& confirm) {
                 hand.at("frmWebBrowser", [](QWidget& browser) {
-                    EXPECT_TRUE(QTest::qWaitFor([&browser] { return browser.windowTitle().size() > 15; }, 30'000));
+                    EXPECT_TRUE(Await([&browser] { return browser.windowTitle().size() > 15; }));
                     Press(browser, "cmdClose");
                 });
                 Press(confirm, "cmdBrowser");
