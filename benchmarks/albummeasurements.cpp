@@ -95,6 +95,24 @@ void MeasureWindows(const Bench& bench, Table& table)
     }
 }
 
+void MeasureProgress(const Bench& bench, Table& table)
+{
+    const Stage stage(bench);
+    const std::string file = MakeFamilyFile(stage, "progress.kvf", 100'000, 0, 0);
+    const std::string site = stage.inMemory("site");
+    stage.stemwright({"setup", "set", file, "Default", "PersPages=1"});
+    stage.stemwright({"setup", "tree", file, "Default", "add", "--head", "1"});
+    const auto built = [&](const char* progress) {
+        const double seconds = stage.measured({"measure_progress", progress, file, site}).workSeconds;
+        RemoveAndSettle(site);
+        return seconds;
+    };
+    // The first build makes the work tables.
+    built("none");
+    const auto rounds = Repeat(bench, [&]() -> Round { return {built("window"), built("none")}; });
+    table.addPair("publishing with its progress window", "100,000", Summary(0, rounds, 0), 1.05);
+}
+
 void MeasureLargePictures(const Bench& bench, Table& table)
 {
     constexpr int pictures = 1'000;

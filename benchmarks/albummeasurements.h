@@ -31,4 +31,7 @@ void MeasurePublishedAlbum(const Bench& bench, Table& table);
 /// in windows.
 void MeasureWindows(const Bench& bench, Table& table);
 
+/// Publishing a tree with the window that shows how it proceeds against publishing without it.
+void MeasureProgress(const Bench& bench, Table& table);
+
 } // namespace stemwright::bench

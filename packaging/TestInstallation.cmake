@@ -23,7 +23,7 @@ run(${PROGRAM} --yes publish ${FOLDER}/family.kvf --output ${FOLDER}/site)
 file(COPY ${FOLDER}/share/stemwright/felinity.kvf DESTINATION ${FOLDER})
 run(${PROGRAM} --yes publish ${FOLDER}/felinity.kvf --output ${FOLDER}/cats)
 foreach(FILE IN ITEMS site/index.html cats/ListOfPics.html site/graphics/site.css share/man/man1/stemwright-cli.1
-        share/stemwright/manual/frmalbum.html)
+        share/stemwright/manual/frmalbum.html lib/stemwright/libstemwright_siteview.so)
   if(NOT EXISTS ${FOLDER}/${FILE})
     message(FATAL_ERROR "${FILE} is not there")
   endif()

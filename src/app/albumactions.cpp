@@ -74,6 +74,9 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     mnuFind = make("mnuFind", Caption("&Find Picture by ID..."), QKeySequence::Find);
     mnuThumbView = make("mnuThumbView", Caption("&Thumb View"), Qt::CTRL | Qt::Key_T, Caption("togglethumbs"));
     mnuThumbView->setCheckable(true);
+    mnuCreateWebPages = make("mnuCreateWebPages", Caption("Create &Web Pages..."), {}, Caption("createwebpages"));
+    mnuViewWebPages = make("mnuViewWebPages", Caption("&View My Web Pages..."), {}, Caption("viewwebpages"));
+    mnuUploadWebPages = make("mnuUploadWebPages", Caption("&Upload Web Pages..."));
     mnuHelp = make("mnuHelp", Caption("&Help"), QKeySequence::HelpContents);
     mnuAbout = make("mnuAbout", Caption("&About Stemwright"));
     actFirst = make("first", Caption("First Picture"), Qt::CTRL | Qt::Key_Home, Caption("first"));
@@ -91,6 +94,7 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     AddMenu(window, Caption("&Edit"), {mnuContEdit});
     AddMenu(window, Caption("&Pictures"),
             {mnuAddPicRec, mnuEditPicRec, mnuDelPicRec, mnuApply, nullptr, mnuQueries, mnuFind, nullptr, mnuThumbView});
+    AddMenu(window, Caption("&Web"), {mnuCreateWebPages, mnuViewWebPages, mnuUploadWebPages});
     AddMenu(window, Caption("&Help"), {mnuHelp, mnuAbout});
 
     toolbar = window.addToolBar(Caption("Toolbar"));
@@ -99,7 +103,8 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
     for (QAction* action : {mnuNew, mnuOpen, static_cast<QAction*>(nullptr), actFirst, actPrevious, actNext, actLast,
                             static_cast<QAction*>(nullptr), mnuThumbView, static_cast<QAction*>(nullptr), mnuAddPicRec,
-                            mnuEditPicRec, mnuDelPicRec, static_cast<QAction*>(nullptr)}) {
+                            mnuEditPicRec, mnuDelPicRec, static_cast<QAction*>(nullptr), mnuCreateWebPages,
+                            mnuViewWebPages, static_cast<QAction*>(nullptr)}) {
         action != nullptr ? toolbar->addAction(action) : static_cast<void>(toolbar->addSeparator());
     }
 }
@@ -113,7 +118,8 @@ void AlbumActions::enable(AlbumState now, int row, int rows) const
     };
     const bool browsing = now == AlbumState::Browsing;
     set({mnuSaveAs, mnuProperties}, now != AlbumState::NoFile);
-    set({mnuImportGedcom, mnuAddPicRec, mnuQueries, mnuContEdit, actRunQuery, mnuExportTabletoText},
+    set({mnuImportGedcom, mnuAddPicRec, mnuQueries, mnuContEdit, actRunQuery, mnuExportTabletoText, mnuCreateWebPages,
+         mnuViewWebPages, mnuUploadWebPages},
         browsing || now == AlbumState::EmptyList);
     set({mnuEditPicRec, mnuDelPicRec, mnuFind, mnuThumbView}, browsing);
     set({actFirst, actPrevious}, browsing && row > 0);

@@ -40,6 +40,10 @@ struct AlbumActions {
     QAction* mnuQueries;
     QAction* mnuFind;
     QAction* mnuThumbView;
+    // Web
+    QAction* mnuCreateWebPages;
+    QAction* mnuViewWebPages;
+    QAction* mnuUploadWebPages;
     // Help
     QAction* mnuHelp;
     QAction* mnuAbout;

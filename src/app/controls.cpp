@@ -6,6 +6,7 @@
 
 #include <QtCore/QEvent>
 #include <QtGui/QClipboard>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
@@ -131,6 +132,12 @@ QHBoxLayout* MakeRow(std::initializer_list<QWidget*> controls)
         row->addWidget(control);
     }
     return row;
+}
+
+bool IsReturnInList(const QKeyEvent& event, const QWidget& window)
+{
+    const bool isReturn = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    return isReturn && qobject_cast<QAbstractItemView*>(window.focusWidget()) != nullptr;
 }
 
 QDialogButtonBox* MakeOkCancel(QDialog& window)

@@ -9,6 +9,7 @@ class QAbstractItemModel;
 class QAbstractItemView;
 class QDialogButtonBox;
 class QHBoxLayout;
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -36,6 +37,9 @@ QLineEdit* MakeLine(const char* name, const QString& toolTip = {});
 QTableView* MakeGrid(const char* name, const QString& purpose, QAbstractItemModel& model);
 /// Controls side by side.
 QHBoxLayout* MakeRow(std::initializer_list<QWidget*> controls);
+
+/// Whether a key is Return in one of the window's lists, where it acts on the row and not on the window.
+bool IsReturnInList(const QKeyEvent& event, const QWidget& window);
 
 /// OK (`cmdOK`) and Cancel (`cmdCancel`) that accept and reject the window.
 QDialogButtonBox* MakeOkCancel(QDialog& window);

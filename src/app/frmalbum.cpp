@@ -10,6 +10,9 @@
 #include "app/frmexporttableastext.h"
 #include "app/frmproperties.h"
 #include "app/frmqueries.h"
+#include "app/frmselectsetup.h"
+#include "app/frmsetups.h"
+#include "app/frmupload.h"
 #include "app/gedcomimport.h"
 #include "app/help.h"
 #include "app/messages.h"
@@ -101,6 +104,9 @@ void frmAlbum::connectActions()
     act(m_actions->mnuQueries, [this] { manageQueries(); });
     act(m_actions->mnuFind, [this] { findPicture(); });
     act(m_actions->mnuThumbView, [this](bool thumbnails) { showThumbnails(thumbnails); });
+    act(m_actions->mnuCreateWebPages, [this] { createWebPages(); });
+    act(m_actions->mnuViewWebPages, [this] { ViewWebPages(m_file.connection(), m_environment, this); });
+    act(m_actions->mnuUploadWebPages, [this] { ShowUpload(m_file.connection(), m_environment, this); });
     act(m_actions->mnuHelp, [this] { ShowHelp(m_environment, FrontHelpPage(m_environment)); });
     act(m_actions->mnuAbout, [this] { ShowAbout(m_environment.application, *this); });
     act(m_actions->actFirst, [this] { m_browser->goToRow(0); });
@@ -162,6 +168,12 @@ void frmAlbum::exportList()
 void frmAlbum::showProperties()
 {
     ShowProperties(m_file, m_environment, this);
+}
+
+void frmAlbum::createWebPages()
+{
+    ShowSetups(
+        m_file, m_environment, [this] { return m_people.pick(); }, this);
 }
 
 // The list of pictures.

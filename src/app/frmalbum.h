@@ -50,6 +50,7 @@ private:
     void importGedcom();
     void exportList();
     void showProperties();
+    void createWebPages();
 
     // The list of pictures.
     void fillQueries();

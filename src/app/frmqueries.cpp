@@ -5,13 +5,13 @@
 #include "app/controls.h"
 #include "app/frmeditquery.h"
 #include "app/frmnewquery.h"
+#include "app/namedrowspanel.h"
 #include "queries/messages.h"
 #include "queries/querymanager.h"
 
-#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
 
 namespace stemwright
 {
@@ -31,7 +31,7 @@ public:
         setWindowTitle(QStringLiteral("Picture List Queries"));
         ResizeForLetters(*this, 460, 380);
         layOut();
-        fill(current.isEmpty() ? m_manager.selected() : current);
+        m_queries->fill(current.isEmpty() ? m_manager.selected() : current);
         RememberPlace(*this, environment.settings);
     }
 
@@ -42,87 +42,41 @@ private:
     {
         QLabel* explanation = MakeLabel("lblExplanation", querymessages::QueryListExplanation());
         explanation->setWordWrap(true);
-        lstQueries->setObjectName(QStringLiteral("lstQueries"));
-        LetCopy(*lstQueries);
-        connect(lstQueries, &QListWidget::itemActivated, this, &frmQueries::run);
-        connect(lstQueries, &QListWidget::currentRowChanged, this, &frmQueries::setButtons);
-        auto* buttons = new QVBoxLayout;
-        const auto add = [this, buttons](QPushButton* button, void (frmQueries::*procedure)()) {
-            connect(button, &QPushButton::clicked, this, procedure);
-            buttons->addWidget(button);
-        };
-        add(MakeButton("cmdNew", QStringLiteral("&New...")), &frmQueries::create);
-        add(cmdEdit, &frmQueries::edit);
-        add(cmdRename, &frmQueries::rename);
-        add(cmdDelete, &frmQueries::remove);
-        buttons->addSpacing(12);
-        add(cmdRun, &frmQueries::run);
-        add(MakeButton("cmdClose", QStringLiteral("&Close")), &frmQueries::reject);
-        buttons->addStretch();
-        auto* lower = new QHBoxLayout;
-        lower->addWidget(lstQueries, 1);
-        lower->addLayout(buttons);
+        using Needs = NamedRowsPanel::Needs;
+        m_queries->addButton(MakeButton("cmdNew", QStringLiteral("&New...")), Needs::Nothing, [this] { create(); });
+        m_queries->addButton(MakeButton("cmdEdit", QStringLiteral("&Edit...")), Needs::Row, [this] { edit(); });
+        m_queries->addRenameAndDelete();
+        m_queries->addSpace();
+        m_queries->addButton(MakeButton("cmdRun", QStringLiteral("&Run")), Needs::Row, [this] { run(); });
+        m_queries->addButton(MakeButton("cmdClose", QStringLiteral("&Close")), Needs::Nothing, [this] { reject(); });
+        connect(m_queries, &NamedRowsPanel::activated, this, &frmQueries::run);
         auto* layout = new QVBoxLayout(this);
         layout->addWidget(explanation);
-        layout->addLayout(lower, 1);
-        lstQueries->setFocus();
-    }
-
-    QString selected() const
-    {
-        return lstQueries->currentItem() != nullptr ? lstQueries->currentItem()->text() : QString();
-    }
-
-    void fill(const QString& select)
-    {
-        lstQueries->clear();
-        lstQueries->addItems(m_manager.names());
-        const QList<QListWidgetItem*> found = lstQueries->findItems(select, Qt::MatchFixedString);
-        lstQueries->setCurrentRow(found.isEmpty() ? 0 : lstQueries->row(found.constFirst()));
-        setButtons();
-    }
-
-    void setButtons()
-    {
-        for (QPushButton* button : {cmdEdit, cmdRename, cmdDelete, cmdRun}) {
-            button->setEnabled(lstQueries->currentRow() >= 0);
-        }
+        layout->addWidget(m_queries, 1);
+        m_queries->setFocus();
     }
 
     void create()
     {
-        if (AskForNewQuery(m_manager, selected(), *this)) {
-            fill(m_manager.selected());
+        if (AskForNewQuery(m_manager, m_queries->selected(), *this)) {
+            m_queries->fill(m_manager.selected());
         }
     }
 
     void edit()
     {
-        const QString name = selected();
+        const QString name = m_queries->selected();
         if (EditQuery(m_connection, m_environment, name, m_picker, this) == QueryEditingEnd::Run) {
             m_toRun = name;
             accept();
         }
     }
 
-    void rename()
-    {
-        if (m_manager.rename(selected())) {
-            fill(m_manager.selected());
-        }
-    }
-
-    void remove()
-    {
-        if (m_manager.remove(selected())) {
-            fill(m_manager.selected());
-        }
-    }
-
     void run()
     {
-        if (m_manager.run(selected())) {
-            m_toRun = selected();
+        const QString name = m_queries->selected();
+        if (m_manager.run(name)) {
+            m_toRun = name;
             accept();
         }
     }
@@ -132,11 +86,7 @@ private:
     const PersonPicker& m_picker;
     QueryManager m_manager;
     std::optional<QString> m_toRun;
-    QListWidget* lstQueries = new QListWidget;
-    QPushButton* cmdEdit = MakeButton("cmdEdit", QStringLiteral("&Edit..."));
-    QPushButton* cmdRename = MakeButton("cmdRename", QStringLiteral("Rena&me..."));
-    QPushButton* cmdDelete = MakeButton("cmdDelete", QStringLiteral("&Delete"));
-    QPushButton* cmdRun = MakeButton("cmdRun", QStringLiteral("&Run"));
+    NamedRowsPanel* m_queries = new NamedRowsPanel(m_manager, "lstQueries");
 };
 
 } // namespace

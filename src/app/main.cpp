@@ -68,7 +68,7 @@ int main(int argc, char** argv)
     stemwright::Application program(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Stemwright"));
     QApplication::setApplicationVersion(QString::fromLatin1(stemwright::versionText));
-    // What a decoder has to say about a flaw of a picture is no message to a user.
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));
+    // What a decoder has to say about a flaw of a picture, or the browser about the graphics, is no message to a user.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false\nqt.webenginecontext=false"));
     return stemwright::Run(program);
 }

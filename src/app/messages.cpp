@@ -114,6 +114,45 @@ QString Credits()
                           "warranty.\n\nBuilt with Qt, SQLite, SQLiteCpp and ICU.");
 }
 
+QString SetupsExplanation()
+{
+    return QStringLiteral(
+        "A setup describes a web site: its trees, its looks, and the folder in which it is built. Choose "
+        "one and click Edit/Run, or make a new one.");
+}
+
+QString ItemsToInclude()
+{
+    return QStringLiteral("Items to display on personal pages and (optionally) in family tree:");
+}
+
+QString OriginOfItem(const QString& table)
+{
+    if (table == QStringLiteral("Fam")) {
+        return QStringLiteral("Belongs to the family");
+    }
+    return table == QStringLiteral("Fam2Child") ? QStringLiteral("Belongs to the child in its family")
+                                                : QStringLiteral("Belongs to the individual");
+}
+
+QString UploadExplanation()
+{
+    return QStringLiteral(
+        "This release only collects and checks these settings: nothing is stored, and nothing is sent. "
+        "To put your site on the web, copy its folder in the way that your provider describes.");
+}
+
+QString PageCannotBeShown()
+{
+    return QStringLiteral("The page could not be shown. Press F5 to try again.");
+}
+
+Message CannotOpenAddress(const QString& address)
+{
+    return {QStringLiteral("Web Browser"), QStringLiteral("No program was found that opens\n%1").arg(address),
+            Icon::Information};
+}
+
 Message CannotOpenHelp(const QString& path)
 {
     return {QStringLiteral("Help"),

@@ -34,6 +34,18 @@ Message DropOnePicture();
 /// The list is too long for thumbnails.
 QString TooLongForGallery();
 
+// Web site setups and their sites.
+QString SetupsExplanation();
+QString ItemsToInclude();
+/// What an item of this table belongs to: "Indi", "Fam" or "Fam2Child".
+QString OriginOfItem(const QString& table);
+/// What the settings for uploading are good for.
+QString UploadExplanation();
+/// The viewer lost its page.
+QString PageCannotBeShown();
+/// Nothing opens a page or an address.
+Message CannotOpenAddress(const QString& address);
+
 /// No browser shows the manual.
 Message CannotOpenHelp(const QString& path);
 

@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "base/settings.h"
 
+#include "base/error.h"
+#include "base/files.h"
+
+#include <QtCore/QFileInfo>
 #include <QtCore/QSettings>
 #include <QtCore/QStandardPaths>
 
@@ -38,6 +42,28 @@ QString FileSettings::value(const QString& section, const QString& key) const
 void FileSettings::setValue(const QString& section, const QString& key, const QString& value)
 {
     QSettings(m_path, QSettings::IniFormat).setValue(KeyPath(section, key), value);
+}
+
+QString FileSettings::documentPath(const QString& name) const
+{
+    return QFileInfo(m_path).path() + u'/' + name;
+}
+
+QByteArray FileSettings::document(const QString& name) const
+{
+    try {
+        return QFileInfo::exists(documentPath(name)) ? ReadWholeFile(documentPath(name)) : QByteArray();
+    } catch (const Error&) {
+        return {};
+    }
+}
+
+void FileSettings::setDocument(const QString& name, const QByteArray& content)
+{
+    CreateFolderPath(QFileInfo(m_path).path());
+    UnfinishedFile file(documentPath(name));
+    WriteWholeFile(file.path(), content);
+    file.putInPlace();
 }
 
 QString MemorySettings::value(const QString& section, const QString& key) const

@@ -92,6 +92,7 @@ void Publish(CommandLine& line, const PublishArguments& arguments)
     const std::optional<QString> index =
         BuildWebPages(file, {setup, CommandLine::pathOf(arguments.output)}, line.environment());
     Require(index.has_value());
+    TellWebPagesCreated(*index, line.environment());
     line.out() << *index << Qt::endl;
 }
 

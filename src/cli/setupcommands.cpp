@@ -5,6 +5,7 @@
 #include "cli/listing.h"
 #include "web/setupediting.h"
 #include "web/setupmanager.h"
+#include "web/setupmodel.h"
 #include "web/setupviewing.h"
 
 namespace stemwright
@@ -89,6 +90,14 @@ void AddCheck(CLI::App& setup, CommandLine& line)
     });
 }
 
+void AddDefault(CLI::App& setup, CommandLine& line)
+{
+    auto* command = setup.add_subcommand("default", "Save the values of a setup as the default of new setups");
+    auto arguments = AddNamedRowArguments(*command, "setup");
+    command->callback(
+        [&line, arguments] { Require(SaveAsModel(arguments->open(line), arguments->rowName(), line.environment())); });
+}
+
 void AddView(CLI::App& setup, CommandLine& line)
 {
     auto* command = setup.add_subcommand("view", "Print where the first of a setup's finished pages is");
@@ -112,6 +121,7 @@ void AddSetupCommands(CLI::App& app, CommandLine& line)
     AddShow(*setup, line);
     AddSet(*setup, line);
     AddCheck(*setup, line);
+    AddDefault(*setup, line);
     AddView(*setup, line);
     AddSetupTreeCommands(*setup, line);
     AddSetupItemCommands(*setup, line);

@@ -5,8 +5,8 @@
 #include "album/modblob.h"
 #include "base/files.h"
 #include "base/version.h"
+#include "web/backgroundstyles.h"
 #include "web/escape.h"
-#include "web/standardfiles.h"
 #include "web/templates.h"
 #include "web/treelinks.h"
 

@@ -129,14 +129,19 @@ void ItemSelection::setOptions(int row, const ItemOptions& options)
 
 void ItemSelection::save()
 {
-    Transaction transaction(m_connection);
-    Statement erase = m_connection.prepare(
+    WriteSelectedItems(m_connection, m_setup.name, m_items);
+}
+
+void WriteSelectedItems(Connection& connection, const QString& setupName, const std::vector<SelectedItem>& items)
+{
+    Transaction transaction(connection);
+    Statement erase = connection.prepare(
         QStringLiteral("DELETE FROM SelectedItems WHERE rtrim(SetupName) = rtrim(?1) COLLATE NOCASE"));
-    erase.bind(1, m_setup.name).run();
+    erase.bind(1, setupName).run();
     Statement statement =
-        m_connection.prepare(QStringLiteral("INSERT INTO SelectedItems (SetupName, ItemValue) VALUES (?1, ?2)"));
-    for (const SelectedItem& item : m_items) {
-        statement.bind(1, m_setup.name).bind(2, item.toRecord()).run();
+        connection.prepare(QStringLiteral("INSERT INTO SelectedItems (SetupName, ItemValue) VALUES (?1, ?2)"));
+    for (const SelectedItem& item : items) {
+        statement.bind(1, setupName).bind(2, item.toRecord()).run();
     }
     transaction.commit();
 }

@@ -32,6 +32,9 @@ bool MayChangeTexts(const ItemOptions& options);
 /// Whether the text before the place can be changed: only for an event with date and place that is shown in the tree.
 bool MayChangeTextBeforePlace(const SelectedItem& item, const ItemOptions& options);
 
+/// Makes these the items of a setup, in their order, as one action.
+void WriteSelectedItems(Connection& connection, const QString& setupName, const std::vector<SelectedItem>& items);
+
 class ItemSelection
 {
 public:

@@ -243,12 +243,24 @@ QString TreesHaveHeads(const QString& setupName)
 
 Message WebPagesCreated(const QString& folder)
 {
-    return {QStringLiteral("Web Pages Created"),
-            QStringLiteral("Your web pages have been created. To view them, click 'View My Web Pages'\n\n"
-                           "Alternatively, you can open Windows Explorer, navigate to folder:\n%1\n"
-                           "and double-click index.html.")
-                .arg(Native(folder)),
+    const auto [viewing, place, opening] = WebPagesCreatedTexts(folder);
+    return {QStringLiteral("Web Pages Created"), viewing + QStringLiteral("\n\n") + place + u'\n' + opening,
             Icon::Information};
+}
+
+std::array<QString, 3> WebPagesCreatedTexts(const QString& folder)
+{
+    return {QStringLiteral("Your web pages have been created. To view them, click 'View My Web Pages'"),
+            QStringLiteral("Alternatively, you can open Windows Explorer, navigate to folder:\n%1").arg(Native(folder)),
+            QStringLiteral("and double-click index.html.")};
+}
+
+Message BuildStopped()
+{
+    return {BuildingWebPages(),
+            QStringLiteral("Building your web pages was stopped. What is in the output folder is only a part of them: "
+                           "please build them again before you use them."),
+            Icon::Warning};
 }
 
 Message CannotBuild(const QString& reason)

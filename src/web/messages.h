@@ -4,6 +4,8 @@
 
 #include "base/talk.h"
 
+#include <array>
+
 /// The texts that building a web site shows, word for word.
 namespace stemwright::webmessages
 {
@@ -53,6 +55,10 @@ QString TreesHaveHeads(const QString& setupName);
 
 // The end.
 Message WebPagesCreated(const QString& folder);
+/// Its lines: how to view the pages, where they are, and what to do there.
+std::array<QString, 3> WebPagesCreatedTexts(const QString& folder);
+/// What was written is only a part of the site.
+Message BuildStopped();
 Message CannotBuild(const QString& reason);
 
 } // namespace stemwright::webmessages

@@ -53,32 +53,6 @@ bool HoldsFamilyFiles(const QString& folder)
     return !QDir(folder).entryList(patterns, QDir::Files | QDir::Hidden).isEmpty();
 }
 
-void RequireSuitable(const QString& folder, const ProtectedPlaces& places)
-{
-    if (folder.trimmed().isEmpty()) {
-        throw Error(webmessages::NoOutputFolder());
-    }
-    const QString resolved = Resolved(folder);
-    if (QFileInfo(resolved).isRoot()) {
-        throw Error(webmessages::IsRootFolder(folder));
-    }
-    const QFileInfo info(resolved);
-    if (info.exists() && !info.isDir()) {
-        throw Error(webmessages::IsNotAFolder(folder));
-    }
-    const QString application = Resolved(places.applicationFolder);
-    if (Contains(resolved, application) ||
-        (Contains(application, resolved) && !Contains(Resolved(places.pagesFolder), resolved))) {
-        throw Error(webmessages::IsApplicationFolder(folder));
-    }
-    if (Contains(resolved, Resolved(places.homeFolder))) {
-        throw Error(webmessages::HoldsHomeFolder(folder));
-    }
-    if (Contains(resolved, Resolved(places.familyFile)) || HoldsFamilyFiles(resolved)) {
-        throw Error(webmessages::HoldsFamilyFile(folder));
-    }
-}
-
 bool Create(const QString& folder, Talk& talk)
 {
     if (talk.ask(webmessages::OutputFolderDoesNotExist(folder)) != Button::Ok) {
@@ -110,9 +84,43 @@ bool Empty(const QString& folder, Talk& talk)
 
 } // namespace
 
+ProtectedPlaces ProtectedPlaces::of(const QString& familyFile, const ApplicationFolder& application)
+{
+    return {familyFile, QDir::homePath(), application.path(), application.pagesFolder()};
+}
+
+std::optional<QString> WhyNoOutputFolder(const QString& folder, const ProtectedPlaces& places)
+{
+    if (folder.trimmed().isEmpty()) {
+        return webmessages::NoOutputFolder();
+    }
+    const QString resolved = Resolved(folder);
+    if (QFileInfo(resolved).isRoot()) {
+        return webmessages::IsRootFolder(folder);
+    }
+    const QFileInfo info(resolved);
+    if (info.exists() && !info.isDir()) {
+        return webmessages::IsNotAFolder(folder);
+    }
+    const QString application = Resolved(places.applicationFolder);
+    if (Contains(resolved, application) ||
+        (Contains(application, resolved) && !Contains(Resolved(places.pagesFolder), resolved))) {
+        return webmessages::IsApplicationFolder(folder);
+    }
+    if (Contains(resolved, Resolved(places.homeFolder))) {
+        return webmessages::HoldsHomeFolder(folder);
+    }
+    if (Contains(resolved, Resolved(places.familyFile)) || HoldsFamilyFiles(resolved)) {
+        return webmessages::HoldsFamilyFile(folder);
+    }
+    return std::nullopt;
+}
+
 bool PrepareOutputFolder(const QString& folder, const ProtectedPlaces& places, Talk& talk)
 {
-    RequireSuitable(folder, places);
+    if (const std::optional<QString> reason = WhyNoOutputFolder(folder, places)) {
+        throw Error(*reason);
+    }
     return QFileInfo::exists(folder) ? Empty(folder, talk) : Create(folder, talk);
 }
 

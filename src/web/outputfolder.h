@@ -5,6 +5,8 @@
 #include "base/applicationfolder.h"
 #include "base/talk.h"
 
+#include <optional>
+
 /// The folder that a site is written into. Files of the user's are in danger here, so it is checked for being a
 /// sensible place before anything is asked or deleted. Stands on base.
 namespace stemwright
@@ -17,7 +19,12 @@ struct ProtectedPlaces {
     QString applicationFolder;
     /// The part of the application's folder in which sites may stand all the same.
     QString pagesFolder;
+
+    static ProtectedPlaces of(const QString& familyFile, const ApplicationFolder& application);
 };
+
+/// Why no site may be written into a folder, as a whole sentence; no value when one may.
+std::optional<QString> WhyNoOutputFolder(const QString& folder, const ProtectedPlaces& places);
 
 /// Makes the folder ready: creates it, or empties it of its files (not of hidden files, and not of folders), each after
 /// asking. False when the user would rather not, or was told that it cannot be created. Throws Error, having changed

@@ -28,6 +28,8 @@ struct TreeDefinition {
     QString display;
     /// 1 and up.
     int icon = 1;
+
+    bool operator==(const TreeDefinition&) const = default;
 };
 
 struct Setup {

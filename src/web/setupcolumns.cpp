@@ -19,7 +19,6 @@ namespace
 /// The run settings are 16-bit numbers.
 constexpr int largestRunSetting = std::numeric_limits<qint16>::max();
 constexpr int largestColour = 0xFFFFFF;
-constexpr int lastBackgroundStyle = 1;
 
 std::vector<SetupColumn> MakeSetupColumns()
 {
@@ -31,7 +30,7 @@ std::vector<SetupColumn> MakeSetupColumns()
         {QStringLiteral("HomePageName"), Text, Step1},
         {QStringLiteral("Standalone"), YesNo, Step1},
         {QStringLiteral("PersPages"), Switch, General},
-        {QStringLiteral("PageStyle"), Number, DisplayOptions, 0, lastBackgroundStyle},
+        {QStringLiteral("PageStyle"), Number, DisplayOptions, 0, largestRunSetting},
         {QStringLiteral("CellFg"), Colour, DisplayOptions},
         {QStringLiteral("CellBg"), Colour, DisplayOptions},
         {QStringLiteral("MaxGenOnPage"), Number, General, 0, largestRunSetting},

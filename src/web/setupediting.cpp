@@ -4,7 +4,9 @@
 
 #include "album/modblob.h"
 #include "base/error.h"
+#include "web/backgroundstyles.h"
 #include "web/setupmessages.h"
+#include "web/sitebuild.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -30,6 +32,15 @@ QMimeType ImageTypeOf(const QString& path)
     return type;
 }
 
+void RequireStyle(const SetupColumn& column, const std::variant<int, QString>& value,
+                  const ApplicationFolder& application)
+{
+    const int* style = std::get_if<int>(&value);
+    if (column.name == QStringLiteral("PageStyle") && *style >= BackgroundStyles(application).size()) {
+        throw Error(QStringLiteral("%1: there is no background style with number %2.").arg(column.name).arg(*style));
+    }
+}
+
 } // namespace
 
 SetupEditing::SetupEditing(Connection& connection, Environment& environment, const QString& setupName)
@@ -51,6 +62,7 @@ void SetupEditing::set(const QString& columnName, const QString& typed)
         typed.isEmpty() ? removeEmblem() : storeEmblem(typed);
         return;
     }
+    RequireStyle(column, value, m_environment.application);
     Statement statement =
         m_connection.prepare(QStringLiteral("UPDATE WebSiteInfo SET \"%1\" = ?1 WHERE rowid = ?2").arg(column.name));
     std::visit([&statement](const auto& bound) { statement.bind(1, bound); }, value);
@@ -73,6 +85,14 @@ void SetupEditing::removeEmblem()
     Statement statement = m_connection.prepare(
         QStringLiteral("UPDATE WebSiteInfo SET EmblemPicture = NULL, EmblemFiletype = NULL WHERE rowid = ?1"));
     statement.bind(1, m_row.row).run();
+}
+
+QByteArray SetupEditing::emblem() const
+{
+    Statement statement =
+        m_connection.prepare(QStringLiteral("SELECT EmblemPicture FROM WebSiteInfo WHERE rowid = ?1"));
+    statement.bind(1, m_row.row).step();
+    return statement.bytes(0);
 }
 
 QString SetupEditing::settingText(const SetupColumn& column) const
@@ -107,14 +127,44 @@ bool SetupEditing::leavePage(WizardPage page)
     return true;
 }
 
+bool SetupEditing::isComplete() const
+{
+    Setup complete = setup();
+    if (const std::optional<TreeDefinition>& edited = m_trees.edited()) {
+        const auto isEdited = [&edited](const TreeDefinition& tree) { return tree.number == edited->number; };
+        std::replace_if(complete.trees.begin(), complete.trees.end(), isEdited, *edited);
+    }
+    return !CheckSetup(complete);
+}
+
 bool SetupEditing::save()
 {
+    try {
+        m_trees.keep();
+    } catch (const std::exception& exception) {
+        m_environment.talk.tell(setupmessages::SetupFailed(ErrorText(exception)));
+        return false;
+    }
     return m_changes.save(m_environment.talk, setupmessages::SetupFailed);
 }
 
 bool SetupEditing::cancel()
 {
-    return m_changes.cancel(m_environment.talk, setupmessages::LoseChanges());
+    return !edited() || m_changes.cancel(m_environment.talk, setupmessages::LoseChanges());
+}
+
+std::optional<QString> SetupEditing::build(FamilyFile& file)
+{
+    if (!save()) {
+        return std::nullopt;
+    }
+    std::optional<QString> index;
+    try {
+        m_changes.aside([&] { index = BuildWebPages(file, {m_row.name, {}}, m_environment); });
+    } catch (const std::exception& exception) {
+        m_environment.talk.tell(setupmessages::SetupFailed(ErrorText(exception)));
+    }
+    return index;
 }
 
 } // namespace stemwright

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "store/file/familyfile.h"
 #include "store/file/pendingchanges.h"
 #include "web/setupcolumns.h"
 #include "web/treeediting.h"
 
 /// One setup while it is being edited, by the wizard, the command line or a test. Each change is written to its column
 /// at once, within a transaction that save() commits; whatever was not saved is undone when the object goes. Refused
-/// values throw Error and change nothing. Stands on setupcolumns.h and treeediting.h.
+/// values throw Error and change nothing. Stands on setupcolumns.h, treeediting.h and sitebuild.h.
 namespace stemwright
 {
 
@@ -27,16 +28,30 @@ public:
     /// The value of a column in the form in which set() takes it; an image is described by its size.
     QString settingText(const SetupColumn& column) const;
 
+    /// The bytes of the emblem's image file; empty when there is none.
+    QByteArray emblem() const;
+
     TreeEditing& trees() { return m_trees; }
+
+    /// Whether nothing of the setup keeps its pages from being built, the tree definition being edited included.
+    bool isComplete() const;
+
+    /// Whether there are changes that were not saved.
+    bool edited() const { return m_changes.any() || m_trees.changed(); }
 
     /// Applies a tree definition that is still being edited, if the page holds them, and checks the page's values.
     /// False, after the user was told what is wrong, when the page must not be left.
     bool leavePage(WizardPage page);
 
-    /// Makes all changes lasting. False, after the user was told, when the family file cannot be written.
+    /// Makes all changes lasting, those of a tree definition that is still being edited as well. False, after the user
+    /// was told, when the family file cannot be written.
     bool save();
-    /// Asks whether to lose the changes since the last save and undoes them on Yes. False when the answer is No.
+    /// Asks whether to lose the changes since the last save, if there are any, and undoes them on Yes. False when the
+    /// answer is No.
     bool cancel();
+    /// Saves and builds the site (BuildWebPages() in sitebuild.h); the editing can go on afterwards. `file` is the
+    /// family file of the setup.
+    std::optional<QString> build(FamilyFile& file);
 
 private:
     void storeEmblem(const QString& path);

@@ -6,6 +6,7 @@
 #include "store/engine/schema.h"
 #include "store/file/defaultrows.h"
 #include "web/setupmessages.h"
+#include "web/setupmodel.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -100,6 +101,7 @@ void SetupManager::writeNew(const QString& name)
     WriteDefaultSetup(connection(), name, application);
     WriteDefaultSelectedItems(connection(), name);
     WriteDefaultTreeHead(connection(), name);
+    FollowModel(connection(), name, environment());
     m_wizardMode = WizardMode::New;
 }
 

@@ -16,7 +16,8 @@ namespace stemwright
 /// How the wizard was called: for a setup that was just made, or for one that stood there.
 enum class WizardMode { New, Edit };
 
-/// Clones get everything that the other setup holds but its output folder.
+/// New setups are as the user's model says (setupmodel.h). Clones get everything that the other setup holds but its
+/// output folder.
 class SetupManager : public NamedRowManager
 {
 public:

@@ -133,4 +133,19 @@ Message PagesNotYetCreated()
             Icon::Warning};
 }
 
+Message NoServerName()
+{
+    return {QStringLiteral("No Server Name"), QStringLiteral("Please provide an FTP server name"), Icon::Critical};
+}
+
+Message NoUsername()
+{
+    return {QStringLiteral("No Username"), QStringLiteral("Please provide a username"), Icon::Critical};
+}
+
+Message NoPassword()
+{
+    return {QStringLiteral("No Password"), QStringLiteral("Please provide a password"), Icon::Critical};
+}
+
 } // namespace stemwright::setupmessages

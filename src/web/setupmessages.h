@@ -36,4 +36,9 @@ Message TooFewGenerationsOnPage();
 Message NoSetupToView();
 Message PagesNotYetCreated();
 
+// The settings for uploading.
+Message NoServerName();
+Message NoUsername();
+Message NoPassword();
+
 } // namespace stemwright::setupmessages

@@ -43,8 +43,12 @@ public:
         for (const Step& step : steps()) {
             m_progress->setCaption(step.caption);
             m_progress->setPercent(0);
+            if (step.mayStop && m_progress->stopWished()) {
+                throw StopWished{};
+            }
             (this->*step.work)();
         }
+        m_newTables->commit();
         m_progress.reset();
         return m_folder + QStringLiteral("/index.html");
     }
@@ -53,14 +57,16 @@ private:
     struct Step {
         QString caption;
         void (SiteBuild::*work)();
+        /// From where on only the site itself is unfinished when the user stops.
+        bool mayStop = true;
     };
 
     static std::vector<Step> steps()
     {
         using namespace webmessages;
-        return {{SavingTheSetup(), &SiteBuild::loadSetup},
-                {Initializing(), &SiteBuild::loadTree},
-                {PreparingTheOutputFolder(), &SiteBuild::prepareFolder},
+        return {{SavingTheSetup(), &SiteBuild::loadSetup, false},
+                {Initializing(), &SiteBuild::loadTree, false},
+                {PreparingTheOutputFolder(), &SiteBuild::prepareFolder, false},
                 {LoadingPictures(), &SiteBuild::loadPictures},
                 {CopyingStandardFiles(), &SiteBuild::copyStandardFiles},
                 {LoadingIndividuals(), &SiteBuild::loadIndividuals},
@@ -95,8 +101,7 @@ private:
 
     void prepareFolder()
     {
-        const ProtectedPlaces places{m_file.path(), QDir::homePath(), m_environment.application.path(),
-                                     m_environment.application.pagesFolder()};
+        const ProtectedPlaces places = ProtectedPlaces::of(m_file.path(), m_environment.application);
         if (!PrepareOutputFolder(m_folder, places, m_environment.talk)) {
             throw Stopped{};
         }
@@ -188,10 +193,10 @@ private:
         }
     }
 
-    /// The tables become lasting only after the last page that they describe.
+    /// The tables become lasting only after the last page of the site.
     void buildIndex()
     {
-        Transaction transaction(m_connection);
+        m_newTables.emplace(m_connection);
         WriteWorkTables(*m_run, m_connection);
         const std::vector<TreePosition> persons = PersonsInIndexOrder(*m_run);
         StepProgress progress(*m_progress,
@@ -199,7 +204,6 @@ private:
                                                             : webmessages::BuildingIndex(),
                               persons.size());
         WriteNameIndex(*m_run, persons, progress);
-        transaction.commit();
     }
 
     void buildAlbum()
@@ -236,29 +240,35 @@ private:
     std::optional<Privacy> m_privacy;
     std::optional<NameParts> m_names;
     std::optional<SiteRun> m_run;
+    std::optional<Transaction> m_newTables;
 };
-
-/// Whether the user still wants to see the closing dialog.
-bool ShowsConfirmation(const Settings& settings)
-{
-    return settings.value(setting::exportWizard, setting::confirmScreen) != QStringLiteral("0");
-}
 
 } // namespace
 
 std::optional<QString> BuildWebPages(FamilyFile& file, const SiteRequest& request, Environment& environment)
 {
     try {
-        const QString index = SiteBuild(file, request, environment).run();
-        if (ShowsConfirmation(environment.settings)) {
-            environment.talk.tell(webmessages::WebPagesCreated(QFileInfo(index).path()));
-        }
-        return index;
+        return SiteBuild(file, request, environment).run();
     } catch (const Stopped&) {
+        return std::nullopt;
+    } catch (const StopWished&) {
+        environment.talk.tell(webmessages::BuildStopped());
         return std::nullopt;
     } catch (const std::exception& exception) {
         environment.talk.tell(webmessages::CannotBuild(ErrorText(exception)));
         return std::nullopt;
+    }
+}
+
+bool WantsConfirmation(const Settings& settings)
+{
+    return settings.value(setting::exportWizard, setting::confirmScreen) != QStringLiteral("0");
+}
+
+void TellWebPagesCreated(const QString& index, Environment& environment)
+{
+    if (WantsConfirmation(environment.settings)) {
+        environment.talk.tell(webmessages::WebPagesCreated(QFileInfo(index).path()));
     }
 }
 

@@ -19,4 +19,10 @@ struct SiteRequest {
 /// stopped the build or was told why it failed; the family file is then as it was.
 std::optional<QString> BuildWebPages(FamilyFile& file, const SiteRequest& request, Environment& environment);
 
+/// Tells where the finished site is, unless the user switched that off: for whoever has no window to say so.
+void TellWebPagesCreated(const QString& index, Environment& environment);
+
+/// Whether the user wants to hear of the end of a build at all.
+bool WantsConfirmation(const Settings& settings);
+
 } // namespace stemwright

@@ -4,6 +4,7 @@
 
 #include "base/error.h"
 #include "base/files.h"
+#include "web/backgroundstyles.h"
 #include "web/messages.h"
 
 #include <QtCore/QDir>
@@ -27,13 +28,6 @@ void CopyFiles(const QString& from, const QString& to)
 }
 
 } // namespace
-
-QString StyleFolder(int pageStyle, const ApplicationFolder& application)
-{
-    constexpr int memories = 1;
-    return application.file(pageStyle == memories ? QStringLiteral("BgStyles/Memories")
-                                                  : QStringLiteral("BgStyles/OldBook"));
-}
 
 void CopyStandardFiles(int pageStyle, const ApplicationFolder& application, const QString& outputFolder)
 {

@@ -7,9 +7,6 @@
 namespace stemwright
 {
 
-/// The folder of a page style: 1 is "Memories", everything else "OldBook".
-QString StyleFolder(int pageStyle, const ApplicationFolder& application);
-
 /// Fills the "graphics" folder of a site with the application's images and those of the page style, which win where
 /// both have a file. Throws Error when the folder or a file cannot be written.
 void CopyStandardFiles(int pageStyle, const ApplicationFolder& application, const QString& outputFolder);

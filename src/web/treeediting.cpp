@@ -13,6 +13,13 @@
 namespace stemwright
 {
 
+std::optional<QString> TreeIconFile(int icon, const ApplicationFolder& application)
+{
+    const QString file = QStringLiteral("graphics/icons_tree_%1.gif").arg(icon - 1, 2, 10, QChar(u'0'));
+    const QString path = application.file(file);
+    return icon >= 1 && QFileInfo::exists(path) ? std::optional(path) : std::nullopt;
+}
+
 TreeEditing::TreeEditing(Connection& connection, Environment& environment, QString setupName)
     : m_connection(connection), m_environment(environment), m_setupName(std::move(setupName))
 {
@@ -44,9 +51,7 @@ TreeDefinition& TreeEditing::taken()
 
 void TreeEditing::take(TreeDefinition definition)
 {
-    if (m_edited) {
-        store();
-    }
+    keep();
     m_edited = std::move(definition);
 }
 
@@ -85,8 +90,7 @@ void TreeEditing::setDisplay(const QString& display)
 
 void TreeEditing::setIcon(int icon)
 {
-    const QString file = QStringLiteral("graphics/icons_tree_%1.gif").arg(icon - 1, 2, 10, QChar(u'0'));
-    if (icon < 1 || !QFileInfo::exists(m_environment.application.file(file))) {
+    if (!TreeIconFile(icon, m_environment.application)) {
         throw Error(QStringLiteral("There is no tree icon with number %1.").arg(icon));
     }
     taken().icon = icon;
@@ -103,8 +107,16 @@ bool TreeEditing::setHead(int individualId)
     return true;
 }
 
-void TreeEditing::store()
+bool TreeEditing::changed() const
 {
+    return m_edited && *m_edited != definition(m_edited->number);
+}
+
+void TreeEditing::keep()
+{
+    if (!changed()) {
+        return;
+    }
     Statement statement =
         m_connection.prepare(QStringLiteral("UPDATE TreeHeads SET TreeHeadId = ?1, TreeHeadName = ?2,"
                                             " GenDisplayType = ?3, IconNo = ?4 WHERE TreeNumber = ?5"));
@@ -115,8 +127,9 @@ void TreeEditing::store()
 
 bool TreeEditing::apply()
 {
-    store();
-    if (!taken().headId) {
+    const bool hasHead = taken().headId.has_value();
+    keep();
+    if (!hasHead) {
         m_environment.talk.tell(setupmessages::NoTreeHeadYet());
         return false;
     }

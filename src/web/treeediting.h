@@ -16,6 +16,9 @@
 namespace stemwright
 {
 
+/// The image of a tree icon in the application's folder; no value for a number, counted from 1, that has none.
+std::optional<QString> TreeIconFile(int icon, const ApplicationFolder& application);
+
 class TreeEditing
 {
 public:
@@ -46,6 +49,11 @@ public:
     /// taken up.
     bool apply();
 
+    /// Stores what was changed so far in the definition that was taken up, head or not; it stays taken up.
+    void keep();
+    /// Whether there are changes that were neither applied nor kept.
+    bool changed() const;
+
     /// Deletes a definition after asking. False when it is the last one, of which the user is told, or when the answer
     /// is No.
     bool remove(int number);
@@ -54,7 +62,6 @@ private:
     TreeDefinition definition(int number) const;
     TreeDefinition& taken();
     void take(TreeDefinition definition);
-    void store();
 
     Connection& m_connection;
     Environment& m_environment;

@@ -4,6 +4,7 @@
 
 #include "support/testworld.h"
 
+#include <QtCore/QEventLoop>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtGui/QAction>
@@ -101,6 +102,16 @@ void ClickHeader(QWidget& window, const char* name, int section)
 {
     QHeaderView& header = *Find<QTableView>(window, name).horizontalHeader();
     QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, {header.sectionViewportPosition(section) + 8, 5});
+}
+
+bool Await(const std::function<bool()>& condition)
+{
+    QEventLoop loop;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &loop, [&] { condition() ? loop.quit() : void(); });
+    look.start(5);
+    QTimer::singleShot(2 * longestWait, &loop, [&loop] { loop.exit(1); });
+    return condition() || loop.exec() == 0;
 }
 
 Hand::Hand()

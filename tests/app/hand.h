@@ -41,6 +41,10 @@ int CurrentRow(QWidget& window, const char* name);
 /// Clicks the caption of a column.
 void ClickHeader(QWidget& window, const char* name, int section);
 
+/// Lets the event loop run until something is so. QTest::qWaitFor sleeps between its looks, and a browser, whose work
+/// comes in many small pieces, with it. False when it takes too long.
+bool Await(const std::function<bool()>& condition);
+
 /// The user before the modal windows. What he does with each is said before it comes up, in the order in which they
 /// do. A window that nobody foretold, one that never comes and one that stays open fail the test; none makes it hang.
 class Hand : public QObject

@@ -15,7 +15,7 @@ int main(int argc, char** argv)
     stemwright::DialogTalk talk(settings);
     application.tellThrough(talk);
     QCoreApplication::setApplicationName(QStringLiteral("Stemwright"));
-    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false"));
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio.*=false\nqt.webenginecontext=false"));
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

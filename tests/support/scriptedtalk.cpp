@@ -27,7 +27,10 @@ public:
 
     void setPercent(int percent) override { m_talk.m_percents.push_back(percent); }
 
-    bool stopWished() override { return false; }
+    bool stopWished() override
+    {
+        return !m_talk.m_stopAt.isEmpty() && m_talk.m_captions.back().startsWith(m_talk.m_stopAt);
+    }
 
 private:
     ScriptedTalk& m_talk;

@@ -26,6 +26,9 @@ public:
     /// Expects an input box; no value stands for Cancel.
     ScriptedTalk& expectInput(const QString& title, const std::optional<QString>& answer);
 
+    /// Wishes to stop the work whose progress display shows a caption that begins so.
+    void stopAt(const QString& caption) { m_stopAt = caption; }
+
     Button ask(const Message& message) override;
     void tell(const Message& message) override;
     /// Ticked when the expected answer is Button::Yes.
@@ -55,6 +58,7 @@ private:
     std::vector<Message> m_shown;
     QStringList m_captions;
     std::vector<int> m_percents;
+    QString m_stopAt;
 };
 
 } // namespace stemwright::test

@@ -139,7 +139,7 @@ TEST(AlbumPages, NothingNamesHiddenPersons)
         .mark(1, 0, "Aunt vera, née VIVID", "81, 82, 83, 84");
     site.picture(2, "Title = 'Veranda with Vivid lights'").mark(2, 5, "Jane");
     site.picture(3).mark(3, 13, "Vera Vivid");
-    site.talk.expect("The output folder").expect("Hidden persons in picture texts").expect("Web Pages Created");
+    site.talk.expect("The output folder").expect("Hidden persons in picture texts");
     ASSERT_TRUE(BuildWebPages(site.file, {"Default", site.site()}, site.environment));
     EXPECT_THAT(site.talk.shown()[1].text.toStdString(), HasSubstr("Texts of 1 of"));
     for (const auto& [name, bytes] : site.files()) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "web/setupediting.h"
 
+#include "web/backgroundstyles.h"
 #include "web/setupviewing.h"
 #include "web/setupworld.h"
 
@@ -80,6 +81,36 @@ TEST(SetupEditing, OnlySavedChangesLast)
     SetupEditing(world.connection(), world.environment, setupName).set(title, "forgotten");
     EXPECT_EQ(stored(), "saved");
     EXPECT_FALSE(ErrorOf([&] { SetupEditing(world.connection(), world.environment, "x"); }).isEmpty());
+}
+
+TEST_F(SetupEditingTest, OnlyRealChangesArePending)
+{
+    trees.edit(trees.definitions().front().number);
+    trees.setIcon(10);
+    EXPECT_FALSE(editing.edited());
+    EXPECT_TRUE(editing.cancel()) << "asks nothing";
+    SetupEditing again(world.connection(), world.environment, setupName);
+    again.trees().edit(again.trees().definitions().front().number);
+    again.trees().setIcon(2);
+    EXPECT_TRUE(again.edited());
+    ASSERT_TRUE(again.save()) << "stores the tree being edited, head or not";
+    EXPECT_FALSE(again.edited());
+    EXPECT_EQ(world.column("SELECT IconNo FROM TreeHeads"), QStringList{"2"});
+}
+
+TEST_F(SetupEditingTest, StylesAreThoseOfTheApplicationsFolder)
+{
+    EXPECT_FALSE(StyleSample(0, world.application));
+    QDir().mkpath(world.path("application/BgStyles/Aqua"));
+    QDir().mkpath(world.path("application/BgStyles/Empty"));
+    for (const char* page : {"tree", "left", "topright", "bottom", "main"}) {
+        world.write(QString("application/BgStyles/Aqua/%1.html").arg(page), page);
+    }
+    EXPECT_EQ(BackgroundStyles(world.application), (QStringList{"OldBook", "Memories", "Aqua"}));
+    editing.set("PageStyle", "2");
+    EXPECT_TRUE(ErrorOf([&] { editing.set("PageStyle", "3"); }).contains("no background style"));
+    EXPECT_TRUE(StyleFolder(2, world.application).endsWith("/BgStyles/Aqua"));
+    EXPECT_TRUE(StyleFolder(99, world.application).endsWith("/BgStyles/OldBook"));
 }
 
 TEST_F(SetupEditingTest, EachFailureHasItsPageAndItsMessage)

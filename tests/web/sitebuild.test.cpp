@@ -160,8 +160,7 @@ TEST(SiteBuild, MessagesOfTheWalk)
     world.talk.expect("The output folder")
         .expect("Missing family record")
         .expect("Family-less Ancestor")
-        .expect("Family-less Ancestor")
-        .expect("Web Pages Created");
+        .expect("Family-less Ancestor");
     ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
     EXPECT_THAT(world.talk.shown()[1].text.toStdString(), HasSubstr("# 99\n"));
     EXPECT_THAT(world.talk.shown()[2].text.toStdString(), HasSubstr("ancestor, Vera Vivid\nhas no families. \n"));
@@ -184,6 +183,26 @@ TEST(SiteBuild, StoppedBuildLeavesFolderAndFileAlone)
     EXPECT_FALSE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
     EXPECT_EQ(world.files().size(), 1U);
     EXPECT_THAT(world.column("SELECT * FROM Indi2Page"), IsEmpty());
+}
+
+TEST(SiteBuild, CanBeStoppedOnceTheFolderIsPrepared)
+{
+    SiteWorld world;
+    AddHarts(world);
+    world.setup("PersPages = 1");
+    ASSERT_TRUE(world.publish());
+    const QStringList before = world.column("SELECT * FROM Indi2Page");
+    world.build.run("UPDATE Indi SET Surname = 'Changed'");
+    for (const char* caption : {"Copying standard files", "Outline for: Hart, Sir Thomas",
+                                "Building index of names and", "Processing picture:", "Writing the list of trees"}) {
+        world.talk.stopAt(caption);
+        world.talk.expect("There are already some files").expect("Building Web Pages");
+        EXPECT_FALSE(BuildWebPages(world.file, {"Default", world.site()}, world.environment)) << caption;
+        EXPECT_TRUE(world.talk.shown().back().text.startsWith("Building your web pages was stopped.")) << caption;
+        EXPECT_EQ(world.page("index.html"), "") << "nobody takes it for a finished site";
+        EXPECT_EQ(world.column("SELECT * FROM Indi2Page"), before);
+        world.write("site/left.html", "rest");
+    }
 }
 
 TEST(SiteBuild, FailureOfALatePageLeavesTheTablesAsTheyWere)

@@ -46,7 +46,6 @@ SiteWorld& SiteWorld::item(const char* record)
 bool SiteWorld::publish()
 {
     talk.expect("The output folder");
-    talk.expect("Web Pages Created");
     const std::optional<QString> index = BuildWebPages(file, {"Default", site()}, environment);
     return index == site() + "/index.html";
 }

@@ -5,6 +5,7 @@
 #include "tour.h"
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyleFactory>
@@ -115,6 +116,7 @@ int main(int argc, char** argv)
         }
         qputenv("QT_SCALE_FACTOR", wishes.scale.toUtf8());
         QApplication program(argc, argv);
+        QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext=false"));
         QApplication::setApplicationName(QStringLiteral("Stemwright"));
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
         QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), wishes.points));

@@ -50,16 +50,6 @@ Tour::Tour(frmAlbum& window, Environment& environment, Camera& camera, QString t
 {
 }
 
-template <typename Control>
-Control& Tour::control(QWidget& window, const char* name)
-{
-    auto* found = window.findChild<Control*>(QLatin1StringView(name));
-    if (found == nullptr) {
-        qFatal("no control %s in %s", name, qUtf8Printable(window.objectName()));
-    }
-    return *found;
-}
-
 void Tour::trigger(const char* action)
 {
     control<QAction>(m_window, action).trigger();
@@ -89,6 +79,8 @@ void Tour::album(const QString& familyFile)
     people();
     files();
     menus();
+    wizard();
+    webPages();
     import();
 }
 

@@ -29,11 +29,22 @@ private:
     void files();
     void import();
     void menus();
+    void wizard();
+    void webPages();
+    void items(QWidget& wizard);
+    void build(QWidget& wizard);
 
     void trigger(const char* action);
     void press(QWidget& window, const char* button);
     template <typename Control>
-    Control& control(QWidget& window, const char* name);
+    Control& control(QWidget& window, const char* name)
+    {
+        auto* found = window.findChild<Control*>(QLatin1StringView(name));
+        if (found == nullptr) {
+            qFatal("no control %s in %s", name, qUtf8Printable(window.objectName()));
+        }
+        return *found;
+    }
 
     frmAlbum& m_window;
     Environment& m_environment;

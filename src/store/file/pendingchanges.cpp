@@ -7,11 +7,25 @@
 namespace stemwright
 {
 
+void PendingChanges::begin()
+{
+    m_changes.reset();
+    m_changes.emplace(m_connection);
+    m_writtenBefore = m_connection.engine().getTotalChanges();
+}
+
+bool PendingChanges::any() const
+{
+    return m_changes && m_connection.engine().getTotalChanges() != m_writtenBefore;
+}
+
 bool PendingChanges::save(Talk& talk, Message (*failure)(const QString& reason))
 {
     try {
-        m_changes->commit();
-        m_changes.emplace(m_connection);
+        if (m_changes) {
+            m_changes->commit();
+        }
+        begin();
         return true;
     } catch (const std::exception& exception) {
         talk.tell(failure(ErrorText(exception)));
@@ -26,6 +40,13 @@ bool PendingChanges::cancel(Talk& talk, const Message& question)
     }
     m_changes.reset();
     return true;
+}
+
+void PendingChanges::aside(const std::function<void()>& procedure)
+{
+    m_changes.reset();
+    procedure();
+    begin();
 }
 
 } // namespace stemwright
