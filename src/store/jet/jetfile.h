@@ -18,6 +18,9 @@ class JetFile
 public:
     explicit JetFile(const QString& path);
 
+    /// The bytes of the file as they were read.
+    const QByteArray& content() const { return m_pages.content(); }
+
     /// The names of the tables that users and programs made, in the order of the database's own list.
     const QStringList& tableNames() const { return m_tableNames; }
 

@@ -54,6 +54,9 @@ public:
     JetPages& operator=(const JetPages&) = delete;
     ~JetPages();
 
+    /// The whole file.
+    const QByteArray& content() const { return m_content; }
+
     /// The number of whole pages; they are numbered from 0.
     quint32 count() const { return m_count; }
 
