@@ -46,7 +46,7 @@ QString PictureSearch::below(const QString& folder, const QString& path)
         }
         found = QDir(found).filePath(name);
     }
-    return QFileInfo(found).isFile() ? found : QString();
+    return QFileInfo(found).isFile() ? QDir::cleanPath(found) : QString();
 }
 
 QString PictureSearch::find(const QString& stored)
