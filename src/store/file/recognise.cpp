@@ -25,10 +25,10 @@ namespace
 FileFormat FormatOf(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(32) : QByteArray();
+    if (file.error() != QFileDevice::NoError) {
         Refuse(QStringLiteral("It cannot be read: %1.").arg(file.errorString()));
     }
-    const QByteArray head = file.read(32);
     if (head.isEmpty()) {
         Refuse(QStringLiteral("The file is empty."));
     }
