@@ -148,7 +148,11 @@ QByteArray ReadWholeFile(const QString& path)
     if (!file.open(QIODevice::ReadOnly)) {
         Fail(cannotRead, path, file.errorString());
     }
-    const QByteArray content = file.readAll();
+    QByteArray content = file.readAll();
+    // A disk that fails in the middle makes the first read short, and only the next one an error.
+    if (!file.atEnd()) {
+        content += file.readAll();
+    }
     if (file.error() != QFileDevice::NoError) {
         Fail(cannotRead, path, file.errorString());
     }

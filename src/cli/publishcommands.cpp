@@ -3,7 +3,7 @@
 #include "base/error.h"
 #include "cli/commandline.h"
 #include "index/descendants.h"
-#include "store/file/defaultrows.h"
+#include "store/tables/defaultrows.h"
 #include "web/messages.h"
 #include "web/setupediting.h"
 #include "web/setupmanager.h"

@@ -5,7 +5,7 @@
 #include "base/error.h"
 #include "queries/messages.h"
 #include "queries/picturequery.h"
-#include "store/file/defaultrows.h"
+#include "store/tables/defaultrows.h"
 
 namespace stemwright
 {

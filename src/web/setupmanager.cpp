@@ -4,7 +4,7 @@
 
 #include "base/error.h"
 #include "store/engine/schema.h"
-#include "store/file/defaultrows.h"
+#include "store/tables/defaultrows.h"
 #include "web/setupmessages.h"
 #include "web/setupmodel.h"
 

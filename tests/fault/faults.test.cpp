@@ -102,6 +102,29 @@ TEST_F(FaultsTest, AFullDiskLeavesNoHalfFiles)
     }
 }
 
+TEST_F(FaultsTest, AFailingDiskLeavesTheFileOfAnEarlierRelease)
+{
+    const QByteArray old = ReadWholeFile(STEMWRIGHT_TEST_DATA "/jet/family-2.2/cats-2.2.kvf");
+    const QString path = world.write("cats.kvf", old);
+    const QStringList atFirst = names();
+    const auto expectUntouched = [&](const QString& answer, const QString& fault, const QString& place, qint64 after,
+                                     const QString& reason) {
+        SCOPED_TRACE(after);
+        const Outcome outcome = runOnFaultyDisk(fault, place, after, {answer, "open", path});
+        EXPECT_EQ(outcome.status, 1) << outcome;
+        EXPECT_TRUE(outcome.errors.contains(reason)) << outcome;
+        EXPECT_EQ(ReadWholeFile(path), old);
+        EXPECT_EQ(names(), atFirst) << outcome;
+    };
+    expectUntouched("--yes", "full", world.path({}), 300 * 1024, "No space left on device");
+    for (const qint64 kilobytes : {0, 100, 400, 700, 1000}) {
+        expectUntouched("--no", "full", world.path({}), kilobytes * 1024, "full");
+    }
+    expectUntouched("--no", "unreadable", path, 0, "Input/output error");
+    expectUntouched("--no", "unreadable", path, 100'000, "Input/output error");
+    expectUntouched("--yes", "readonly", world.path({}), 0, "write-protected");
+}
+
 TEST_F(FaultsTest, AFullDiskEndsThePublication)
 {
     // The graphics come first, then the pages of the trees.

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 
-// Ends imports, changes of the album or publications at random moments and holds what they leave behind against what it
-// may be: a family file that `stemwright-cli check` passes and that holds all of the old or all of the new, and a site
-// that the next publication makes whole again. Status 0 when all of it held, 1 when not. CONTRIBUTING.md says how to
-// run it at length.
+// Ends imports, changes of the album, upgrades or publications at random moments and holds what they leave behind
+// against what it may be: a family file that `stemwright-cli check` passes and that holds all of the old or all of the
+// new, or that is untouched, and a site that the next publication makes whole again. Status 0 when all of it held, 1
+// when not. CONTRIBUTING.md says how to run it at length.
 
 #include "base/files.h"
 #include "cli/cliworld.h"
@@ -15,6 +15,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QCryptographicHash>
+#include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
@@ -88,6 +89,9 @@ public:
     /// A record is applied with another picture and all of its marks; or a picture goes with its record and marks.
     void killEdits();
     void killDeletions();
+    /// A database of an earlier release, with all pictures outside of it, and a file of the engine of an older version.
+    void killConversions();
+    void killUpgrades();
     void killPublications();
     void killAlbums();
 
@@ -113,6 +117,8 @@ private:
     /// Interrupts a command that changes the base by one action.
     void killChange(const QStringList& arguments);
     void killPublication();
+    /// Interrupts the opening of the base, which upgrades it.
+    void killOpening();
 
     double secondsOf(const QStringList& arguments) const
     {
@@ -222,6 +228,55 @@ void KillTest::killChange(const QStringList& arguments)
     report(inTime, QStringLiteral("%1 old states, %2 new ones").arg(old).arg(m_options.times - old));
 }
 
+void KillTest::killConversions()
+{
+    const QString fixture = QStringLiteral(STEMWRIGHT_TEST_DATA "/jet/family-2.0/");
+    Copy(fixture + "cats-2.0.kvf", m_base);
+    for (const char* picture : {"tom.jpg", "big121.jpg", "Zofia.JPG", "emblem.gif"}) {
+        Copy(fixture + picture, m_world.path(picture));
+    }
+    killOpening();
+}
+
+void KillTest::killUpgrades()
+{
+    takeSample();
+    SQLite::Database(m_base.toStdString(), SQLite::OPEN_READWRITE)
+        .exec("UPDATE GenInfo SET StemoraVersion = '2.2.9910'");
+    killOpening();
+}
+
+void KillTest::killOpening()
+{
+    const QStringList open = {"--yes", "open", m_file};
+    const QByteArray before = ReadWholeFile(m_base);
+    const QString backup = m_world.path("work.ffb");
+    Copy(m_base, m_file);
+    double seconds = secondsOf(open);
+    const QByteArray wholeBackup = ReadWholeFile(backup);
+    const QString after = soundFile(m_file);
+    int inTime = 0;
+    int old = 0;
+    for (int number = 0; number < m_options.times; ++number) {
+        Copy(m_base, m_file);
+        QFile::remove(backup);
+        inTime += interrupt(open, seconds) ? 1 : 0;
+        if (QFile::exists(backup) && ReadWholeFile(backup) != wholeBackup) {
+            throw Wrong{QStringLiteral("the backup is not whole")};
+        }
+        if (ReadWholeFile(m_file) == before) {
+            ++old;
+        } else if (soundFile(m_file) != after) {
+            throw Wrong{QStringLiteral("the file is neither untouched nor upgraded")};
+        }
+    }
+    run(open);
+    if (!QDir(m_world.path({})).entryList({"*unfinished*"}).isEmpty()) {
+        throw Wrong{QStringLiteral("what was left unfinished is not cleared away")};
+    }
+    report(inTime, QStringLiteral("%1 old states, %2 new ones").arg(old).arg(m_options.times - old));
+}
+
 void KillTest::killPublications()
 {
     makeBase(5'000);
@@ -266,11 +321,11 @@ void KillTest::killPublication()
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    const std::map<std::string, void (KillTest::*)()> works = {{"import", &KillTest::killImports},
-                                                               {"edit", &KillTest::killEdits},
-                                                               {"delete", &KillTest::killDeletions},
-                                                               {"publish", &KillTest::killPublications},
-                                                               {"album", &KillTest::killAlbums}};
+    const std::map<std::string, void (KillTest::*)()> works = {
+        {"import", &KillTest::killImports},   {"edit", &KillTest::killEdits},
+        {"delete", &KillTest::killDeletions}, {"convert", &KillTest::killConversions},
+        {"upgrade", &KillTest::killUpgrades}, {"publish", &KillTest::killPublications},
+        {"album", &KillTest::killAlbums}};
     Options options;
     CLI::App app("Ends the program at random moments and looks at what it leaves behind.");
     app.add_option("WORK", options.work, "What to interrupt")->required()->check(CLI::IsMember(works));

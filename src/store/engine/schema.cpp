@@ -239,27 +239,6 @@ std::vector<TableDefinition> MakeOldAlbumTables()
     };
 }
 
-/// The declared type decides how the engine converts what is written: names with CHAR or TEXT keep text as it is (a
-/// place named 007 stays 007), while MEMO, DATE and the like would turn it into numbers.
-QString DeclaredType(ColumnType type)
-{
-    switch (type) {
-    case ColumnType::Integer:
-        return QStringLiteral("INTEGER");
-    case ColumnType::Text:
-        return QStringLiteral("VARCHAR(%1)").arg(maxTextLength);
-    case ColumnType::Memo:
-        return QStringLiteral("LONGTEXT");
-    case ColumnType::Binary:
-        return QStringLiteral("LONGBLOB");
-    case ColumnType::Date:
-        return QStringLiteral("DATETIME_TEXT");
-    case ColumnType::YesNo:
-        return QStringLiteral("BOOLEAN");
-    }
-    return {};
-}
-
 /// The rule that a column's values keep. Most columns of a tree are Null, and asking that first costs a fifth of what
 /// measuring the length of nothing does when many rows are inserted.
 QString CheckOf(const ColumnDefinition& column)
@@ -347,6 +326,25 @@ const TableDefinition& TableNamed(QStringView name)
         return *table;
     }
     throw Error(QStringLiteral("A family file has no table named %1.").arg(name));
+}
+
+QString DeclaredType(ColumnType type)
+{
+    switch (type) {
+    case ColumnType::Integer:
+        return QStringLiteral("INTEGER");
+    case ColumnType::Text:
+        return QStringLiteral("VARCHAR(%1)").arg(maxTextLength);
+    case ColumnType::Memo:
+        return QStringLiteral("LONGTEXT");
+    case ColumnType::Binary:
+        return QStringLiteral("LONGBLOB");
+    case ColumnType::Date:
+        return QStringLiteral("DATETIME_TEXT");
+    case ColumnType::YesNo:
+        return QStringLiteral("BOOLEAN");
+    }
+    return {};
 }
 
 QString CreateTableSql(const TableDefinition& table)

@@ -70,6 +70,11 @@ const ColumnDefinition* FindColumn(const TableDefinition& table, QStringView nam
 /// The definition of a table, its name compared without regard to case. Throws Error for an unknown name.
 const TableDefinition& TableNamed(QStringView name);
 
+/// The type with which the engine is told of a column. It decides how the engine converts what is written: names with
+/// CHAR or TEXT keep text as it is (a place named 007 stays 007), while MEMO, DATE and the like would turn it into
+/// numbers.
+QString DeclaredType(ColumnType type);
+
 /// The engine's statements that create a table and its secondary indexes, word for word as the engine keeps them.
 QString CreateTableSql(const TableDefinition& table);
 QStringList CreateIndexesSql(const TableDefinition& table);

@@ -26,7 +26,7 @@ struct Link {
 };
 
 constexpr std::array<Link, 13> links = {{
-    {"Pic2Person", "PicId", "AlbumTOC", "PicId", Severity::Fault, "Marks stand on a picture that is gone"},
+    {"Pic2Person", "PicId", "AlbumTOC", "PicId", Severity::Note, "Marks stand on a picture that is gone"},
     {"TreeHeads", "SetupName", "WebSiteInfo", "SetupName", Severity::Fault, "Trees belong to a setup that is gone"},
     {"SelectedItems", "SetupName", "WebSiteInfo", "SetupName", Severity::Fault, "Items belong to a setup that is gone"},
     {"Pic2Person", "PersId", "Indi", "Id", Severity::Note, "Marks name an individual who is not in the tree"},

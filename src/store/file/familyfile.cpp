@@ -5,9 +5,11 @@
 #include "base/files.h"
 #include "store/engine/engineerror.h"
 #include "store/file/copyfamilyfile.h"
-#include "store/file/createtables.h"
 #include "store/file/messages.h"
 #include "store/file/recognise.h"
+#include "store/file/upgradefamilyfile.h"
+#include "store/tables/createtables.h"
+#include "store/upgrade/upgradesteps.h"
 
 #include <QtCore/QFileInfo>
 
@@ -25,12 +27,27 @@ void WriteNewFile(const QString& path, Environment& environment)
     transaction.commit();
 }
 
-std::unique_ptr<Connection> OpenRecognised(const QString& path)
+/// The file that a link leads to, so that an upgrade replaces that one and not the link.
+QString FileItself(const QString& path)
 {
-    RequireEngineFile(path);
+    return QFileInfo(path).isSymLink() ? QFileInfo(path).canonicalFilePath() : path;
+}
+
+/// Opens a file after the upgrade that it may need; none when the user declined the upgrade.
+std::unique_ptr<Connection> OpenRecognised(const QString& path, const Environment& environment)
+{
+    if (RecogniseFormat(path) == FileFormat::Jet) {
+        return UpgradeFamilyFile(*OpenJetFamilyFile(FileItself(path)), environment) ? OpenRecognised(path, environment)
+                                                                                    : nullptr;
+    }
     auto connection = std::make_unique<Connection>(path, OpenMode::ReadWrite);
-    RequireFamilyFile(*connection);
-    return connection;
+    const QString version = RequireFamilyFile(*connection);
+    if (!NeedsUpgrade(version)) {
+        return connection;
+    }
+    return UpgradeFamilyFile(*OldEngineFamilyFile(FileItself(path), std::move(connection), version), environment)
+               ? OpenRecognised(path, environment)
+               : nullptr;
 }
 
 } // namespace
@@ -61,7 +78,11 @@ bool OpenFamilyFile(FamilyFile& file, const QString& path, Environment& environm
         return true;
     }
     try {
-        file.adopt(OpenRecognised(target));
+        std::unique_ptr<Connection> connection = OpenRecognised(target, environment);
+        if (connection == nullptr) {
+            return false;
+        }
+        file.adopt(std::move(connection));
         return true;
     } catch (const std::exception& exception) {
         environment.talk.tell(storemessages::CannotOpen(target, ReasonText(exception)));

@@ -38,7 +38,8 @@ private:
 /// The file is made beside its place and put there when it is whole.
 bool CreateFamilyFile(FamilyFile& file, const QString& path, Environment& environment);
 
-/// Opens the family file at `path`. A file that was open before stays open when this fails.
+/// Opens the family file at `path`. One of an earlier release is upgraded first, with what the user says to that. A
+/// file that was open before stays open when this fails or the user would rather not.
 bool OpenFamilyFile(FamilyFile& file, const QString& path, Environment& environment);
 
 } // namespace stemwright

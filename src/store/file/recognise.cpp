@@ -3,12 +3,13 @@
 #include "store/file/recognise.h"
 
 #include "base/error.h"
-#include "store/engine/schema.h"
+#include "store/jet/jetfile.h"
+#include "store/tables/tableshape.h"
+#include "store/upgrade/upgradesteps.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QStringList>
 
 namespace stemwright
 {
@@ -16,38 +17,32 @@ namespace stemwright
 namespace
 {
 
-/// Files whose version sorts before this one need an upgrade.
-const QString oldestCurrentVersion = QStringLiteral("2.2.9940");
-
 [[noreturn]] void Refuse(const QString& reason)
 {
     throw Error(reason);
 }
 
-[[noreturn]] void RefuseEarlierRelease()
-{
-    Refuse(QStringLiteral("It was made by an earlier release of Stemwright, and this version cannot upgrade it yet."));
-}
-
-void RequireContentOfEngine(const QString& path)
+FileFormat FormatOf(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    const QByteArray head = file.open(QIODevice::ReadOnly) ? file.read(32) : QByteArray();
+    if (file.error() != QFileDevice::NoError) {
         Refuse(QStringLiteral("It cannot be read: %1.").arg(file.errorString()));
     }
-    const QByteArray head = file.read(32);
     if (head.isEmpty()) {
         Refuse(QStringLiteral("The file is empty."));
     }
-    if (head.mid(4).startsWith("Standard Jet DB") || head.mid(4).startsWith("Standard ACE DB")) {
-        RefuseEarlierRelease();
+    if (IsJetContent(head)) {
+        return FileFormat::Jet;
     }
     if (!head.startsWith(QByteArray("SQLite format 3\0", 16))) {
         Refuse(QStringLiteral("It is not a family file."));
     }
+    return FileFormat::Engine;
 }
 
-/// Whether something of the file's schema is a part of a family file, or of the engine's own bookkeeping.
+/// Whether something of the file's schema is a part of a family file, or of the engine's own bookkeeping. The indexes
+/// of earlier releases were others, and are not used.
 bool BelongsToFamilyFile(const QString& type, const QString& name, const QString& table, const QString& sql)
 {
     const TableDefinition* definition = FindTable(table);
@@ -55,17 +50,29 @@ bool BelongsToFamilyFile(const QString& type, const QString& name, const QString
         const bool bookkeeping = name == u"sqlite_sequence" || name == u"sqlite_stat1" || name == u"sqlite_stat4";
         return bookkeeping || (definition != nullptr && sql.startsWith(QStringLiteral("CREATE TABLE ")));
     }
-    const bool automatic = sql.isNull() && name.startsWith(QStringLiteral("sqlite_autoindex_"));
-    return type == u"index" && definition != nullptr && (automatic || CreateIndexesSql(*definition).contains(sql));
+    return type == u"index" && definition != nullptr;
 }
 
-void RequireNothingElse(Connection& connection)
+/// Whether an index is one that the engine made for a key, or that this release makes.
+bool IsCurrentIndex(const QString& name, const QString& table, const QString& sql)
+{
+    const bool automatic = sql.isNull() && name.startsWith(QStringLiteral("sqlite_autoindex_"));
+    return automatic || CreateIndexesSql(TableNamed(table)).contains(sql);
+}
+
+enum class Indexes { Any, Current };
+
+void RequireNothingElse(Connection& connection, Indexes indexes)
 {
     Statement object = connection.prepare(QStringLiteral("SELECT type, name, tbl_name, sql FROM sqlite_master"));
     while (object.step()) {
-        if (!BelongsToFamilyFile(object.text(0), object.text(1), object.text(2), object.text(3))) {
-            Refuse(QStringLiteral("It holds a thing that no family file has, the %1 \"%2\".")
-                       .arg(object.text(0), object.text(1)));
+        const QString type = object.text(0);
+        const QString name = object.text(1);
+        const QString table = object.text(2);
+        const QString sql = object.text(3);
+        if (!BelongsToFamilyFile(type, name, table, sql) ||
+            (indexes == Indexes::Current && type == u"index" && !IsCurrentIndex(name, table, sql))) {
+            Refuse(QStringLiteral("It holds a thing that no family file has, the %1 \"%2\".").arg(type, name));
         }
     }
 }
@@ -81,40 +88,25 @@ void RequireWholeLength(Connection& connection)
     }
 }
 
-QStringList ColumnsOf(Connection& connection, const QString& table)
+QString StatedVersion(Connection& connection)
 {
-    QStringList names;
-    Statement column = connection.prepare(QStringLiteral("SELECT name, hidden FROM pragma_table_xinfo(?1)"));
-    column.bind(1, table);
-    while (column.step()) {
-        if (column.integer(1) != 0) {
-            Refuse(QStringLiteral("Its table %1 computes the column %2, which no family file does.")
-                       .arg(table, column.text(0)));
-        }
-        names << column.text(0);
+    if (!ColumnsOf(connection, QStringLiteral("GenInfo"))
+             .contains(QStringLiteral("StemoraVersion"), Qt::CaseInsensitive)) {
+        Refuse(QStringLiteral("It is not a family file."));
     }
-    return names;
-}
-
-void RequireTables(Connection& connection)
-{
-    for (const TableDefinition& table : FamilyFileTables()) {
-        const QStringList columns = ColumnsOf(connection, table.name);
-        if (columns.isEmpty()) {
-            Refuse(QStringLiteral("It is not a family file, or not a whole one: it has no table %1.").arg(table.name));
-        }
-        for (const ColumnDefinition& column : table.columns) {
-            if (!columns.contains(column.name, Qt::CaseInsensitive)) {
-                Refuse(QStringLiteral("It is not a whole family file: its table %1 has no column %2.")
-                           .arg(table.name, column.name));
-            }
-        }
+    Statement version = connection.prepare(QStringLiteral("SELECT StemoraVersion FROM GenInfo ORDER BY rowid LIMIT 1"));
+    if (!version.step()) {
+        Refuse(QStringLiteral("It is not a whole family file: its table GenInfo has no row."));
     }
+    if (version.isNull(0)) {
+        Refuse(QStringLiteral("It does not say which version of Stemwright made it."));
+    }
+    return version.text(0);
 }
 
 } // namespace
 
-void RequireEngineFile(const QString& path)
+FileFormat RecogniseFormat(const QString& path)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
@@ -126,7 +118,7 @@ void RequireEngineFile(const QString& path)
     if (!info.isFile()) {
         Refuse(QStringLiteral("It is not a family file."));
     }
-    RequireContentOfEngine(path);
+    const FileFormat format = FormatOf(path);
     if (!info.isWritable()) {
         Refuse(QStringLiteral("The file is write-protected."));
     }
@@ -134,26 +126,30 @@ void RequireEngineFile(const QString& path)
         Refuse(
             QStringLiteral("Its folder, %1, is write-protected.").arg(QDir::toNativeSeparators(info.absolutePath())));
     }
+    return format;
 }
 
-void RequireFamilyFile(Connection& connection)
+QString RequireFamilyFile(Connection& connection)
 {
     RequireWholeLength(connection);
     if (!connection.hasTable(u"GenInfo")) {
         Refuse(QStringLiteral("It is not a family file."));
     }
-    RequireNothingElse(connection);
-    if (!ColumnsOf(connection, QStringLiteral("GenInfo")).contains(QStringLiteral("StemoraVersion"))) {
-        Refuse(QStringLiteral("It is not a family file."));
+    RequireNothingElse(connection, Indexes::Any);
+    const QString version = StatedVersion(connection);
+    if (NeedsUpgrade(version)) {
+        for (const QString& table : TablesOfVersion(version)) {
+            if (!connection.hasTable(table)) {
+                RefuseWithoutTable(table);
+            }
+        }
+        return version;
     }
-    Statement version = connection.prepare(QStringLiteral("SELECT StemoraVersion FROM GenInfo ORDER BY rowid LIMIT 1"));
-    if (!version.step()) {
-        Refuse(QStringLiteral("It is not a whole family file: its table GenInfo has no row."));
+    RequireNothingElse(connection, Indexes::Current);
+    for (const TableDefinition& table : FamilyFileTables()) {
+        RequireTable(connection, table);
     }
-    if (version.text(0).compare(oldestCurrentVersion, Qt::CaseInsensitive) < 0) {
-        RefuseEarlierRelease();
-    }
-    RequireTables(connection);
+    return version;
 }
 
 } // namespace stemwright

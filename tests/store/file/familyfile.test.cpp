@@ -64,7 +64,7 @@ TEST(FamilyFile, WhatIsNoFamilyFileIsRefusedAndTheOpenOneStaysOpen)
     const std::pair<QByteArray, QString> contents[] = {
         {"", "is empty"},
         {"0 HEAD\n1 CHAR UTF-8\n", "not a family file"},
-        {QByteArray("\0\1\0\0Standard Jet DB\0\1", 21) + QByteArray(4096, '\0'), "earlier release of Stemwright"},
+        {QByteArray("\0\1\0\0Standard Jet DB\0\0", 21) + QByteArray(4096, '\0'), "Access 97"},
         {whole.left(whole.size() - 8192), "damaged"},
         {whole.left(100), "damaged"},
         {damaged, "damaged"},

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "store/file/createtables.h"
+#include "store/tables/createtables.h"
 
 #include "base/files.h"
 #include "store/engine/schema.h"

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "store/file/createtables.h"
+#include "store/tables/createtables.h"
 
 #include "store/engine/schema.h"
-#include "store/file/defaultrows.h"
+#include "store/tables/defaultrows.h"
 
 namespace stemwright
 {

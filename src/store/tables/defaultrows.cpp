@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "store/file/defaultrows.h"
+#include "store/tables/defaultrows.h"
 
 #include "album/modblob.h"
 #include "base/version.h"

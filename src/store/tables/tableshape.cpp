@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "store/tables/tableshape.h"
+
+#include "base/error.h"
+
+namespace stemwright
+{
+
+QStringList ColumnsOf(Connection& connection, const QString& table)
+{
+    QStringList names;
+    Statement column = connection.prepare(QStringLiteral("SELECT name, hidden FROM pragma_table_xinfo(?1)"));
+    column.bind(1, table);
+    while (column.step()) {
+        if (column.integer(1) != 0) {
+            throw Error(QStringLiteral("Its table %1 computes the column %2, which no family file does.")
+                            .arg(table, column.text(0)));
+        }
+        names << column.text(0);
+    }
+    return names;
+}
+
+void RequireTable(Connection& connection, const TableDefinition& table)
+{
+    const QStringList columns = ColumnsOf(connection, table.name);
+    if (columns.isEmpty()) {
+        RefuseWithoutTable(table.name);
+    }
+    for (const ColumnDefinition& column : table.columns) {
+        if (!columns.contains(column.name, Qt::CaseInsensitive)) {
+            throw Error(QStringLiteral("It is not a whole family file: its table %1 has no column %2.")
+                            .arg(table.name, column.name));
+        }
+    }
+}
+
+void RefuseWithoutTable(const QString& table)
+{
+    throw Error(QStringLiteral("It is not a family file, or not a whole one: it has no table %1.").arg(table));
+}
+
+} // namespace stemwright
