@@ -36,6 +36,7 @@ private:
 
     void trigger(const char* action);
     void press(QWidget& window, const char* button);
+
     template <typename Control>
     Control& control(QWidget& window, const char* name)
     {
