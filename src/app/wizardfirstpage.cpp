@@ -21,18 +21,22 @@ namespace
 
 constexpr int previewSize = 120;
 
-/// The picture, made to fit into a square of `side` pixels of the screen; null when it cannot be decoded.
-QImage Preview(QByteArray bytes, int side)
+/// The picture at its own size, or smaller so that it fits into a square of `side` pixels, of which each has `density`
+/// of the screen; null when it cannot be decoded.
+QImage Preview(QByteArray bytes, int side, qreal density)
 {
     QBuffer buffer(&bytes);
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
-    const QSize size = reader.size();
+    QSize size = reader.size();
     if (size.width() > side || size.height() > side) {
-        reader.setScaledSize(size.scaled(side, side, Qt::KeepAspectRatio).expandedTo({1, 1}));
+        size = size.scaled(side, side, Qt::KeepAspectRatio);
     }
-    return reader.read();
+    reader.setScaledSize((size * density).expandedTo({1, 1}));
+    QImage image = reader.read();
+    image.setDevicePixelRatio(density);
+    return image;
 }
 
 /// The emblem, the title and the story.
@@ -101,9 +105,7 @@ private:
         const QByteArray bytes = context().editing.emblem();
         cmdRemove->setEnabled(!bytes.isEmpty());
         const int margin = 2 * imgEmblem->frameWidth() + 2;
-        const qreal density = imgEmblem->devicePixelRatioF();
-        QImage image = Preview(bytes, static_cast<int>((previewSize - margin) * density));
-        image.setDevicePixelRatio(density);
+        const QImage image = Preview(bytes, previewSize - margin, imgEmblem->devicePixelRatioF());
         if (image.isNull()) {
             imgEmblem->setText(bytes.isEmpty() ? wizardtexts::NoEmblem() : wizardtexts::EmblemCannotBeShown());
         } else {
