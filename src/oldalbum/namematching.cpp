@@ -109,7 +109,7 @@ bool NameMatching::accept(NameRow proposal)
 bool NameMatching::next()
 {
     if (IsBlank(current().name)) {
-        goOn();
+        passOver();
         return true;
     }
     return mark({0, current().name}, MarkedBy::Name);
@@ -120,7 +120,7 @@ void NameMatching::cancel()
     if (m_talk.ask(oldalbummessages::StopMatching()) == Button::Yes) {
         m_current = m_names.size();
     } else {
-        goOn();
+        passOver();
     }
 }
 
@@ -133,7 +133,7 @@ bool NameMatching::mark(const ChosenPerson& person, MarkedBy marked)
         return false;
     }
     m_names[m_current].marked = true;
-    goOn();
+    passOver();
     return true;
 }
 
@@ -166,7 +166,7 @@ void NameMatching::goTo(std::size_t name)
     m_proposals = ProposalsFor(m_individuals, current().name);
 }
 
-void NameMatching::goOn()
+void NameMatching::passOver()
 {
     if (m_current + 1 < m_names.size()) {
         goTo(m_current + 1);

@@ -54,6 +54,8 @@ public:
     bool accept(NameRow proposal);
     /// Marks the places of the current name with the name alone, and goes on. A blank name is passed over.
     bool next();
+    /// Goes on without writing anything for the current name.
+    void passOver();
     /// Asks whether to stop. Otherwise the current name is passed over.
     void cancel();
 
@@ -63,7 +65,6 @@ private:
     bool mark(const ChosenPerson& person, MarkedBy marked);
     void write(const ChosenPerson& person, MarkedBy marked);
     void goTo(std::size_t name);
-    void goOn();
 
     Connection& m_connection;
     Talk& m_talk;
