@@ -3,6 +3,7 @@
 #include "oldalbum/oldnames.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QSet>
 
 namespace stemwright
 {
@@ -32,6 +33,15 @@ const QString isMarked =
                    "AND (p.X <> '' OR m.PersId > 0 OR m.Name = n.Name COLLATE names))");
 
 } // namespace
+
+std::size_t OldName::pictureCount() const
+{
+    QSet<int> pictures;
+    for (const OldPlace& place : places) {
+        pictures.insert(place.pictureId);
+    }
+    return static_cast<std::size_t>(pictures.size());
+}
 
 bool HasOldNames(Connection& connection)
 {

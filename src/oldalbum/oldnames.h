@@ -27,6 +27,9 @@ struct OldName {
     std::vector<OldPlace> places;
     /// Whether a person is marked at one of them already.
     bool marked = false;
+
+    /// The number of pictures on which it stands, on some more than once.
+    std::size_t pictureCount() const;
 };
 
 /// Whether there are names to match at all.
