@@ -46,6 +46,7 @@ const std::vector<AlbumWork>& AllAlbumWork()
     static const std::vector<AlbumWork> work = {
         {"thumbnails", MeasureThumbnails}, {"names", MeasureNames},          {"opening", MeasureOpening},
         {"large", MeasureLargePictures},   {"album", MeasurePublishedAlbum}, {"windows", MeasureWindows},
+        {"oldalbum", MeasureOldAlbum},
     };
     return work;
 }

@@ -39,6 +39,12 @@ void PersonTables::add(int pictureId, const Participant& person)
 
 int PersonTables::idOf(const QString& name)
 {
+    const auto known = m_spellings.constFind(name);
+    return known != m_spellings.constEnd() ? *known : *m_spellings.insert(name, idOfSpelling(name));
+}
+
+int PersonTables::idOfSpelling(const QString& name)
+{
     const QByteArray key = CollationKey(name);
     const auto known = m_ids.constFind(key);
     if (known != m_ids.constEnd()) {

@@ -25,12 +25,15 @@ public:
 
 private:
     int idOf(const QString& name);
+    int idOfSpelling(const QString& name);
 
     Connection& m_connection;
     Statement m_insertName;
     Statement m_insertPlace;
-    /// The names' numbers, by what makes two names the same.
+    /// The names' numbers, by what makes two names the same, and by the names as they were written, which are mostly
+    /// the same and quicker to find.
     QHash<QByteArray, int> m_ids;
+    QHash<QString, int> m_spellings;
 };
 
 } // namespace stemwright

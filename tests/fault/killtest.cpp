@@ -9,6 +9,7 @@
 #include "base/files.h"
 #include "cli/cliworld.h"
 #include "fault/fingerprint.h"
+#include "oldalbumgenerator.h"
 #include "treegenerator.h"
 
 #include <CLI/CLI.hpp>
@@ -94,6 +95,7 @@ public:
     void killUpgrades();
     void killPublications();
     void killAlbums();
+    void killOldAlbums();
 
 private:
     void run(const QStringList& arguments) const
@@ -287,6 +289,13 @@ void KillTest::killAlbums()
 {
     takeSample();
     killPublication();
+}
+
+void KillTest::killOldAlbums()
+{
+    makeBase(1'000);
+    const QByteArray album = bench::GenerateOldAlbum(STEMWRIGHT_OLD_ALBUM, {3'000, 20'000});
+    killChange({"--yes", "import-album", m_file, m_world.write("old.mdb", album)});
 }
 
 void KillTest::killPublication()
