@@ -328,7 +328,7 @@ int main(int argc, char** argv)
         {"import", &KillTest::killImports},   {"edit", &KillTest::killEdits},
         {"delete", &KillTest::killDeletions}, {"convert", &KillTest::killConversions},
         {"upgrade", &KillTest::killUpgrades}, {"publish", &KillTest::killPublications},
-        {"album", &KillTest::killAlbums}};
+        {"album", &KillTest::killAlbums},     {"oldalbum", &KillTest::killOldAlbums}};
     Options options;
     CLI::App app("Ends the program at random moments and looks at what it leaves behind.");
     app.add_option("WORK", options.work, "What to interrupt")->required()->check(CLI::IsMember(works));
