@@ -44,6 +44,26 @@ PairResult MeasurePair(const Bench& bench, const Stage& stage, const std::vector
 
 } // namespace
 
+void MeasureOldAlbum(const Bench& bench, Table& table)
+{
+    const Stage stage(bench);
+    const std::string album = stage.inMemory("old.mdb");
+    const std::string file = stage.inMemory("album.kvf");
+    const std::string limitFile = stage.inMemory("limit.kvf");
+    stage.run({"stemwright-generate-oldalbum", album, "3000", "20000"});
+    const auto rounds = Repeat(bench, [&]() -> Round {
+        stage.stemwright({"new", file});
+        const double ours = stage.stemwright({"import-album", file, album}).seconds;
+        const double reading = stage.measured({"limit_oldalbum", album}).workSeconds;
+        const double writing =
+            stage.measured({"limit_import", file, limitFile, "AlbumTOC", "PreV2Indi", "PreV2Pic2Person"}).seconds;
+        RemoveAndSettle(file);
+        RemoveAndSettle(limitFile);
+        return {ours, reading + writing};
+    });
+    table.addPair("import of an old album", "3,000", Summary(0, rounds, 0), 3.0);
+}
+
 void MeasureThumbnails(const Bench& bench, Table& table)
 {
     const Stage stage(bench);

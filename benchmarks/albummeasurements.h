@@ -12,6 +12,10 @@ namespace stemwright::bench
 /// The bytes on the tmpfs that the largest of them needs.
 inline constexpr std::uint64_t albumNeeds = 4'500'000'000;
 
+/// `stemwright-cli import-album` of 3,000 pictures with 20,000 persons against reading the album with libmdb and
+/// inserting the same rows.
+void MeasureOldAlbum(const Bench& bench, Table& table);
+
 /// Thumbnails of photos of 12 megapixels against decoding them at an eighth of their size.
 void MeasureThumbnails(const Bench& bench, Table& table);
 

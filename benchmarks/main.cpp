@@ -48,7 +48,7 @@ const std::vector<AlbumWork>& AllAlbumWork()
     static const std::vector<AlbumWork> work = {
         {"thumbnails", MeasureThumbnails}, {"names", MeasureNames},          {"opening", MeasureOpening},
         {"large", MeasureLargePictures},   {"album", MeasurePublishedAlbum}, {"windows", MeasureWindows},
-        {"progress", MeasureProgress},
+        {"progress", MeasureProgress},     {"oldalbum", MeasureOldAlbum},
     };
     return work;
 }

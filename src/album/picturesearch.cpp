@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "album/picturesearch.h"
 
+#include "base/pattern.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
@@ -11,36 +13,49 @@ namespace stemwright
 namespace
 {
 
-QString WithSlashes(const QString& stored)
+/// What no system takes for a path need not be looked for.
+constexpr qsizetype longestPath = 4096;
+
+QString WithSlashes(const QString& storedPath)
 {
-    return QString(stored).replace(u'\\', u'/');
+    return QString(storedPath).replace(u'\\', u'/');
 }
 
 } // namespace
 
-/// An entry of a folder, in the given case if there is one, otherwise in any.
-QString PictureSearch::entry(const QString& folder, const QString& name)
+QString PictureSearch::find(const QString& storedPath)
 {
-    const QDir directory(folder);
-    if (name == u"." || name == u".." || directory.exists(name)) {
-        return name;
-    }
-    auto known = m_entries.find(folder);
-    if (known == m_entries.end()) {
-        known = m_entries.insert(folder, {});
-        for (const QString& each : directory.entryList(QDir::AllEntries | QDir::Hidden | QDir::System)) {
-            known->insert(each.toCaseFolded(), each);
+    const QString path = WithSlashes(storedPath.left(longestPath));
+    QStringList tail = path.split(u'/', Qt::SkipEmptyParts);
+    if (path.startsWith(u'/')) {
+        // Not every folder on the way can be listed.
+        const QString found = QFileInfo(path).isFile() ? QDir::cleanPath(path) : below(QDir::rootPath(), tail);
+        if (!found.isEmpty()) {
+            return found;
         }
     }
-    return known->value(name.toCaseFolded());
+    for (; !tail.isEmpty(); tail.removeFirst()) {
+        for (const QString& folder : m_folders) {
+            if (const QString found = below(folder, tail); !found.isEmpty()) {
+                return found;
+            }
+        }
+    }
+    return {};
 }
 
-/// A file below a folder, by its path in any case.
-QString PictureSearch::below(const QString& folder, const QString& path)
+QString PictureSearch::below(const QString& folder, const QStringList& parts)
 {
     QString found = folder;
-    for (const QString& part : path.split(u'/', Qt::SkipEmptyParts)) {
-        const QString name = entry(found, part);
+    for (const QString& part : parts) {
+        QString name = part;
+        if (name != u"." && name != u"..") {
+            const Names& names = namesIn(found);
+            // A file that has exactly this name goes before one whose letters differ in case.
+            if (!names.all.contains(name)) {
+                name = names.byFoldedForm.value(Pattern::folded(name));
+            }
+        }
         if (name.isEmpty()) {
             return {};
         }
@@ -49,20 +64,25 @@ QString PictureSearch::below(const QString& folder, const QString& path)
     return QFileInfo(found).isFile() ? QDir::cleanPath(found) : QString();
 }
 
-QString PictureSearch::find(const QString& stored)
+const PictureSearch::Names& PictureSearch::namesIn(const QString& folder)
 {
-    const QString path = WithSlashes(stored);
-    const QString name = path.section(u'/', -1);
-    if (name.isEmpty()) {
-        return {};
+    const auto listed = m_listed.constFind(folder);
+    if (listed != m_listed.constEnd()) {
+        return *listed;
     }
-    const QString found = below(QDir::isAbsolutePath(path) ? QDir::rootPath() : m_folder, path);
-    return found.isEmpty() ? below(m_folder, name) : found;
+    Names names;
+    // The last one stays, so that of names that differ only in case the first in order is found.
+    for (const QString& name :
+         QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name | QDir::Reversed)) {
+        names.all.insert(name);
+        names.byFoldedForm.insert(Pattern::folded(name), name);
+    }
+    return *m_listed.insert(folder, names);
 }
 
-QString BaseNameOf(const QString& stored)
+QString BaseNameOf(const QString& storedPath)
 {
-    return QFileInfo(WithSlashes(stored)).completeBaseName();
+    return QFileInfo(WithSlashes(storedPath)).completeBaseName();
 }
 
 } // namespace stemwright

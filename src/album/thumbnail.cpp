@@ -22,12 +22,10 @@ int Follow(int side, int scaled, int original)
 void MeasureAndScale(Connection& connection, int pictureId, const QByteArray& bytes)
 {
     const ImageFile image(bytes);
-    const QByteArray thumbnail =
-        SizeInKilobytes(bytes.size()) <= largestWithThumbnail ? MakeThumbnail(image) : QByteArray();
     Statement update = connection.prepare(QStringLiteral(
         "UPDATE AlbumTOC SET PicWidth = ?2, PicHeight = ?3, Thumb = coalesce(?4, Thumb) WHERE PicId = ?1"));
     update.bind(1, pictureId).bind(2, image.size().width()).bind(3, image.size().height());
-    update.bindBytes(4, thumbnail).run();
+    update.bindBytes(4, StoredThumbnailOf(image)).run();
 }
 
 std::vector<int> PicturesOf(Connection& connection)
@@ -62,6 +60,11 @@ QSize ThumbnailSize(QSize picture)
 QByteArray MakeThumbnail(const ImageFile& image)
 {
     return image.bitmapOf(ThumbnailSize(image.size()));
+}
+
+QByteArray StoredThumbnailOf(const ImageFile& image)
+{
+    return SizeInKilobytes(image.bytes().size()) <= largestWithThumbnail ? MakeThumbnail(image) : QByteArray();
 }
 
 void CreateAllThumbnails(Connection& connection, Talk& talk)

@@ -29,6 +29,9 @@ QSize ThumbnailSize(QSize picture);
 /// The thumbnail as the bytes of a Windows bitmap file (24 bits a pixel); transparent places become white.
 QByteArray MakeThumbnail(const ImageFile& image);
 
+/// The thumbnail with which a picture is stored: null for one that is too large to have any.
+QByteArray StoredThumbnailOf(const ImageFile& image);
+
 /// Gives every picture of the family file its pixel size and, where it is small enough, its thumbnail, in one
 /// transaction and with a progress display. A picture that cannot be decoded is left as it is.
 void CreateAllThumbnails(Connection& connection, Talk& talk);

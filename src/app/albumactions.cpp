@@ -63,6 +63,7 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     mnuSaveAs = make("mnuSaveAs", Caption("Save Family File &As..."), Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     mnuExportTabletoText = make("mnuExportTabletoText", Caption("Expor&t Table to Text File..."));
     mnuImportGedcom = make("mnuImportGedcom", Caption("Import &GEDCOM file..."));
+    mnuPreV2 = make("mnuPreV2", Caption("Import &Pre-V2 Photo Album..."));
     mnuProperties = make("mnuProperties", Caption("Propert&ies"));
     mnuExit = make("mnuExit", Caption("E&xit"), Qt::CTRL | Qt::Key_Q);
     mnuContEdit = make("mnuContEdit", Caption("&Contact Info..."));
@@ -72,6 +73,7 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     mnuApply = make("mnuApply", Caption("Appl&y Changes"), QKeySequence::Save);
     mnuQueries = make("mnuQueries", Caption("Picture List &Queries..."));
     mnuFind = make("mnuFind", Caption("&Find Picture by ID..."), QKeySequence::Find);
+    mnuMatchNames = make("mnuMatchNames", Caption("&Match Old Album Names..."));
     mnuThumbView = make("mnuThumbView", Caption("&Thumb View"), Qt::CTRL | Qt::Key_T, Caption("togglethumbs"));
     mnuThumbView->setCheckable(true);
     mnuCreateWebPages = make("mnuCreateWebPages", Caption("Create &Web Pages..."), {}, Caption("createwebpages"));
@@ -85,15 +87,16 @@ AlbumActions::AlbumActions(QMainWindow& window, const QString& icons)
     actLast = make("last", Caption("Last Picture"), Qt::CTRL | Qt::Key_End, Caption("last"));
     actRunQuery = make("runquery", Caption("Run Query"), Qt::Key_F5, Caption("runquery"));
 
-    QMenu* file = AddMenu(
-        window, Caption("&File"),
-        {mnuNew, mnuOpen, mnuSaveAs, nullptr, mnuExportTabletoText, mnuImportGedcom, nullptr, mnuProperties, mnuExit});
+    QMenu* file = AddMenu(window, Caption("&File"),
+                          {mnuNew, mnuOpen, mnuSaveAs, nullptr, mnuExportTabletoText, mnuImportGedcom, mnuPreV2,
+                           nullptr, mnuProperties, mnuExit});
     mnuRecent = new QMenu(Caption("&Recent Family Files"), file);
     mnuRecent->setObjectName(Caption("mnuRecent"));
     file->insertMenu(mnuSaveAs, mnuRecent);
     AddMenu(window, Caption("&Edit"), {mnuContEdit});
     AddMenu(window, Caption("&Pictures"),
-            {mnuAddPicRec, mnuEditPicRec, mnuDelPicRec, mnuApply, nullptr, mnuQueries, mnuFind, nullptr, mnuThumbView});
+            {mnuAddPicRec, mnuEditPicRec, mnuDelPicRec, mnuApply, nullptr, mnuQueries, mnuFind, mnuMatchNames, nullptr,
+             mnuThumbView});
     AddMenu(window, Caption("&Web"), {mnuCreateWebPages, mnuViewWebPages, mnuUploadWebPages});
     AddMenu(window, Caption("&Help"), {mnuHelp, mnuAbout});
 
@@ -118,12 +121,13 @@ void AlbumActions::enable(AlbumState now, int row, int rows) const
     };
     const bool browsing = now == AlbumState::Browsing;
     set({mnuSaveAs, mnuProperties}, now != AlbumState::NoFile);
-    set({mnuImportGedcom, mnuAddPicRec, mnuQueries, mnuContEdit, actRunQuery, mnuExportTabletoText, mnuCreateWebPages,
-         mnuViewWebPages, mnuUploadWebPages},
+    set({mnuImportGedcom, mnuPreV2, mnuAddPicRec, mnuQueries, mnuContEdit, actRunQuery, mnuExportTabletoText,
+         mnuCreateWebPages, mnuViewWebPages, mnuUploadWebPages},
         browsing || now == AlbumState::EmptyList);
     set({mnuEditPicRec, mnuDelPicRec, mnuFind, mnuThumbView}, browsing);
     set({actFirst, actPrevious}, browsing && row > 0);
     set({actNext, actLast}, browsing && row < rows - 1);
+    set({mnuMatchNames}, m_hasOldNames && (browsing || now == AlbumState::EmptyList));
     set({mnuApply}, now == AlbumState::Editing);
 }
 

@@ -28,6 +28,7 @@ struct AlbumActions {
     QAction* mnuSaveAs;
     QAction* mnuExportTabletoText;
     QAction* mnuImportGedcom;
+    QAction* mnuPreV2;
     QAction* mnuProperties;
     QAction* mnuExit;
     // Edit
@@ -39,6 +40,7 @@ struct AlbumActions {
     QAction* mnuApply;
     QAction* mnuQueries;
     QAction* mnuFind;
+    QAction* mnuMatchNames;
     QAction* mnuThumbView;
     // Web
     QAction* mnuCreateWebPages;
@@ -58,6 +60,12 @@ struct AlbumActions {
 
     /// Enables what can be done now. `row` is the current one of `rows` pictures.
     void enable(AlbumState now, int row, int rows) const;
+
+    /// Whether there are names of an old album, which can be matched while nothing else is at work.
+    void setHasOldNames(bool has) { m_hasOldNames = has; }
+
+private:
+    bool m_hasOldNames = false;
 };
 
 } // namespace stemwright

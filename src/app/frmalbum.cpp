@@ -16,6 +16,7 @@
 #include "app/gedcomimport.h"
 #include "app/help.h"
 #include "app/messages.h"
+#include "app/oldalbums.h"
 #include "app/picturebrowser.h"
 #include "app/recordeditor.h"
 #include "queries/querymanager.h"
@@ -94,6 +95,8 @@ void frmAlbum::connectActions()
     const auto act = [this](QAction* action, auto procedure) { connect(action, &QAction::triggered, this, procedure); };
     act(m_actions->mnuExportTabletoText, [this] { exportList(); });
     act(m_actions->mnuImportGedcom, [this] { importGedcom(); });
+    act(m_actions->mnuPreV2, [this] { importOldAlbum(); });
+    act(m_actions->mnuMatchNames, [this] { matchOldNames(); });
     act(m_actions->mnuProperties, [this] { showProperties(); });
     act(m_actions->mnuExit, [this] { close(); });
     act(m_actions->mnuContEdit, [this] { m_people.editContacts(this); });
@@ -158,6 +161,23 @@ void frmAlbum::importGedcom()
     }
 }
 
+void frmAlbum::importOldAlbum()
+{
+    const AlbumImportReport report = ImportOldAlbum(
+        m_file, m_environment, [this] { return m_people.pick(); }, this);
+    if (report.inAlbum > 0) {
+        refill(m_browser->current());
+        statusBar()->showMessage(appmessages::AlbumImported(report.imported, report.inAlbum), 10'000);
+    }
+}
+
+void frmAlbum::matchOldNames()
+{
+    MatchOldNames(
+        m_file, m_environment, [this] { return m_people.pick(); }, this);
+    refill(m_browser->current());
+}
+
 void frmAlbum::exportList()
 {
     if (m_browser->table()) {
@@ -201,6 +221,7 @@ void frmAlbum::refill(std::optional<int> wanted)
         m_queryName = table->queryName();
     }
     m_browser->setList(std::move(table), m_file, wanted);
+    m_actions->setHasOldNames(CanMatchOldNames(m_file));
     SetToolbar();
     fillQueries();
 }

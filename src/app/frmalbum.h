@@ -48,6 +48,8 @@ private:
     // The family file.
     void showFile();
     void importGedcom();
+    void importOldAlbum();
+    void matchOldNames();
     void exportList();
     void showProperties();
     void createWebPages();

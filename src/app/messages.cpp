@@ -86,6 +86,25 @@ Message DropOnePicture()
             Icon::Information};
 }
 
+QString NameOfMany(std::size_t number, std::size_t names, std::size_t pictures)
+{
+    return QStringLiteral("Name %1 of %2, on %3 %4")
+        .arg(number)
+        .arg(names)
+        .arg(pictures)
+        .arg(pictures == 1 ? QStringLiteral("picture") : QStringLiteral("pictures"));
+}
+
+QString NoPictureOfName()
+{
+    return QStringLiteral("This name is on none of the pictures that are still in the album.");
+}
+
+QString AlbumImported(qint64 imported, qint64 inAlbum)
+{
+    return QStringLiteral("%1 of %2 picture records imported").arg(imported).arg(inAlbum);
+}
+
 QString TooLongForGallery()
 {
     return QStringLiteral("This list is too long to be shown as thumbnails. A query with a filter makes it shorter.");

@@ -31,6 +31,12 @@ Message Failed(const QString& reason);
 
 /// What was dropped onto the window is no single picture file.
 Message DropOnePicture();
+/// Beside the name that is matched: the number of it among all, and on how many pictures it stands.
+QString NameOfMany(std::size_t number, std::size_t names, std::size_t pictures);
+QString NoPictureOfName();
+/// How many records of an old album were imported.
+QString AlbumImported(qint64 imported, qint64 inAlbum);
+
 /// The list is too long for thumbnails.
 QString TooLongForGallery();
 

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/pictureview.h"
 
+#include "app/messages.h"
 #include "base/error.h"
+#include "store/engine/engineerror.h"
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QMouseEvent>
@@ -385,6 +387,20 @@ void PictureView::paintPointer(QPainter& painter) const
     painter.setPen(QPen(Qt::white, 1));
     for (const QPointF corner : {shown.topLeft(), shown.topRight(), shown.bottomLeft(), shown.bottomRight()}) {
         painter.drawRect(QRectF(corner - QPointF(3, 3), QSizeF(6, 6)));
+    }
+}
+
+void ShowStoredPicture(PictureView& view, Connection& connection, int pictureId)
+{
+    try {
+        const QByteArray bytes = StoredPicture(connection, pictureId);
+        if (bytes.isEmpty()) {
+            view.showText(appmessages::NoPicture());
+        } else {
+            view.showPicture(ImageFile(bytes));
+        }
+    } catch (const std::exception& exception) {
+        view.showText(appmessages::CannotShowPicture(ReasonText(exception)));
     }
 }
 

@@ -94,4 +94,7 @@ private:
     std::optional<Drag> m_drag;
 };
 
+/// Shows the picture of a record, or the reason why it cannot be shown.
+void ShowStoredPicture(PictureView& view, Connection& connection, int pictureId);
+
 } // namespace stemwright

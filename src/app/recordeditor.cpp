@@ -100,27 +100,13 @@ void RecordEditor::setButtons()
     cmdCancel->setEnabled(isEditing());
 }
 
-void RecordEditor::showPictureOf(Connection& connection, int pictureId)
-{
-    try {
-        const QByteArray bytes = StoredPicture(connection, pictureId);
-        if (bytes.isEmpty()) {
-            m_view->showText(appmessages::NoPicture());
-        } else {
-            m_view->showPicture(ImageFile(bytes));
-        }
-    } catch (const std::exception& exception) {
-        m_view->showText(appmessages::CannotShowPicture(ReasonText(exception)));
-    }
-}
-
 void RecordEditor::showRecord(Connection& connection, int pictureId)
 {
     try {
         const PictureRecord record = LoadPictureRecord(connection, pictureId);
         PersonMarks marks;
         marks.LoadPersonList(connection, pictureId);
-        showPictureOf(connection, pictureId);
+        ShowStoredPicture(*m_view, connection, pictureId);
         m_form->show(record);
         m_persons->show(marks, record.pointer);
     } catch (const std::exception& exception) {

@@ -62,7 +62,6 @@ private:
     void showChosenPicture();
     void choosePicture();
     void chooseDate();
-    void showPictureOf(Connection& connection, int pictureId);
     void setButtons();
 
     Environment& m_environment;

@@ -6,6 +6,8 @@
 
 #include <cstdio>
 
+#include <unistd.h>
+
 namespace stemwright
 {
 
@@ -18,6 +20,11 @@ FamilyFile& CommandLine::open(const std::string& path)
 {
     Require(OpenFamilyFile(m_file, pathOf(path), m_environment));
     return m_file;
+}
+
+bool CommandLine::canAsk() const
+{
+    return m_options.answers == Answers::Ask && ::isatty(STDIN_FILENO) != 0;
 }
 
 QString CommandLine::pathOf(const std::string& argument)

@@ -39,6 +39,9 @@ public:
 
     const GlobalOptions& options() const { return m_options; }
 
+    /// Whether somebody sits at a terminal and is to be asked.
+    bool canAsk() const;
+
     /// Standard output, for what the command was asked for.
     QTextStream& out() { return m_out; }
 
@@ -71,5 +74,6 @@ void AddMarkCommands(CLI::App& app, CommandLine& line);
 void AddQueryCommands(CLI::App& app, CommandLine& line);
 void AddExportCommands(CLI::App& app, CommandLine& line);
 void AddPeopleCommands(CLI::App& app, CommandLine& line);
+void AddOldAlbumCommands(CLI::App& app, CommandLine& line);
 
 } // namespace stemwright

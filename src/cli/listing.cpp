@@ -14,7 +14,6 @@ namespace stemwright
 namespace
 {
 
-/// A value on one line: a line break within it would break the table.
 QString Cell(const QJsonValue& value)
 {
     if (value.isBool()) {
@@ -23,13 +22,18 @@ QString Cell(const QJsonValue& value)
     if (value.isDouble()) {
         return QString::number(value.toInteger());
     }
-    QString text = value.toString();
-    std::replace_if(
-        text.begin(), text.end(), [](QChar character) { return character < u' '; }, u' ');
-    return text;
+    return OnOneLine(value.toString());
 }
 
 } // namespace
+
+QString OnOneLine(QString text)
+{
+    std::replace_if(
+        text.begin(), text.end(),
+        [](QChar character) { return character < u' ' || (character >= u'\x7F' && character < u'\xA0'); }, u' ');
+    return text;
+}
 
 Listing::Listing(QStringList captions) : m_captions(std::move(captions)) {}
 

@@ -13,6 +13,9 @@
 namespace stemwright
 {
 
+/// A text from a file as it may be printed: on one line, with nothing that a terminal would obey.
+QString OnOneLine(QString text);
+
 class Listing
 {
 public:

@@ -78,6 +78,7 @@ int Run(int argc, char** argv)
         AddMarkCommands(app, line);
         AddQueryCommands(app, line);
         AddExportCommands(app, line);
+        AddOldAlbumCommands(app, line);
         try {
             app.parse(argc, argv);
         } catch (const CLI::ParseError& error) {

@@ -8,10 +8,13 @@
 namespace stemwright
 {
 
-void AppendFullName(std::string& name, const Statement& row, int first)
+void AppendFullName(std::string& name, const Statement& row, int first, NameForm form)
 {
-    name.append(row.utf8(first)).append(", ").append(row.utf8(first + 1));
-    name.append(" ").append(row.utf8(first + 2)).append(" ").append(row.utf8(first + 3));
+    name.append(row.utf8(first)).append(", ");
+    if (form == NameForm::Full) {
+        name.append(row.utf8(first + 1)).append(" ");
+    }
+    name.append(row.utf8(first + 2)).append(" ").append(row.utf8(first + 3));
 }
 
 std::optional<QString> FullNameOf(Connection& connection, int individualId)
@@ -31,11 +34,7 @@ QString StoredFullName(Connection& connection, int individualId)
     if (!whole) {
         throw Error(QStringLiteral("The family tree has no individual with the ID %1.").arg(individualId));
     }
-    QString name = whole->left(maxTextLength);
-    if (name.back().isHighSurrogate()) {
-        name.chop(1);
-    }
-    return name;
+    return CutToColumn(*whole);
 }
 
 bool HasIndividuals(Connection& connection)

@@ -3,7 +3,6 @@
 #include "index/nameindex.h"
 
 #include "base/text.h"
-#include "index/fullname.h"
 
 #include <numeric>
 
@@ -54,7 +53,7 @@ std::string Folded(std::string_view utf8)
 
 NameIndex::NameIndex() : m_texts(textColumns) {}
 
-NameIndex NameIndex::load(Connection& connection)
+NameIndex NameIndex::load(Connection& connection, NameForm form)
 {
     NameIndex index;
     ByteRows sortKeys;
@@ -66,7 +65,7 @@ NameIndex NameIndex::load(Connection& connection)
     while (select.step()) {
         index.m_ids.push_back(select.integer(0));
         name.clear();
-        AppendFullName(name, select, 1);
+        AppendFullName(name, select, 1, form);
         index.m_foldedNames.append(Folded(name));
         index.m_names.append(name);
         index.m_texts.appendRow(select, 5);
@@ -193,9 +192,9 @@ void NameIndex::setOrder(std::vector<NameRow> order)
     }
 }
 
-std::span<const NameRow> NameIndex::beginningWith(QStringView beginning) const
+std::span<const NameRow> NameIndex::beginningWith(QStringView foldedBeginning) const
 {
-    const QByteArray bytes = beginning.toUtf8();
+    const QByteArray bytes = foldedBeginning.toUtf8();
     const std::string_view wanted(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     const auto nameStart = [this, &wanted](NameRow row) { return m_foldedNames[row].substr(0, wanted.size()); };
     const auto first = std::partition_point(m_byFoldedName.begin(), m_byFoldedName.end(),

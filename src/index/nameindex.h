@@ -5,6 +5,7 @@
 #include "base/pattern.h"
 #include "base/sorting.h"
 #include "index/byterows.h"
+#include "index/fullname.h"
 #include "index/texttable.h"
 
 #include <QtCore/QString>
@@ -29,7 +30,7 @@ class NameIndex
 {
 public:
     /// Reads all individuals, in the order of their surnames, given names and suffixes.
-    static NameIndex load(Connection& connection);
+    static NameIndex load(Connection& connection, NameForm form = NameForm::Full);
 
     std::size_t size() const { return m_ids.size(); }
 
@@ -60,13 +61,14 @@ public:
     std::optional<std::size_t> findFrom(std::size_t position, const Pattern& pattern) const;
     /// The last such position before `position`.
     std::optional<std::size_t> findBefore(std::size_t position, const Pattern& pattern) const;
+    /// The rows of all full names that begin with a text, folded as Pattern::folded() folds it.
+    std::span<const NameRow> beginningWith(QStringView foldedBeginning) const;
 
 private:
     NameIndex();
 
     std::optional<std::string_view> sortedText(NameRow row, NameColumn column) const;
     void setOrder(std::vector<NameRow> order);
-    std::span<const NameRow> beginningWith(QStringView beginning) const;
 
     /// By row.
     std::vector<std::int32_t> m_ids;

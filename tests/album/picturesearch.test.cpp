@@ -15,11 +15,12 @@ TEST(PictureSearch, FindsFilesWhereTheyStandToday)
     TestWorld world;
     ASSERT_TRUE(CreateFolderPath(world.path("Album/Old Pictures")));
     ASSERT_TRUE(CreateFolderPath(world.path("elsewhere")));
-    for (const char* name : {"Album/Tom.JPG", "Album/Old Pictures/mia.gif", "Album/both.gif", "Album/BOTH.gif",
-                             "elsewhere/far.jpg", "Album/far.jpg"}) {
+    ASSERT_TRUE(CreateFolderPath(world.path("Family")));
+    for (const char* name : {"Family/obraz ó.jpg", "Family/Tom.JPG", "Album/Tom.JPG", "Album/Old Pictures/mia.gif",
+                             "Album/both.gif", "Album/BOTH.gif", "elsewhere/far.jpg", "Album/far.jpg"}) {
         world.write(name, name);
     }
-    PictureSearch search(world.path("Album"));
+    PictureSearch search({world.path("Album"), world.path("Family")});
     for (const QStringList& row : TestTable("album/picturesearch.txt")) {
         const QString stored = QString(row[0]).replace("FOLDER", world.path({}));
         EXPECT_EQ(search.find(stored), row[1].isNull() ? "" : world.path(row[1])) << stored;

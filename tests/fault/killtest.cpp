@@ -9,6 +9,7 @@
 #include "base/files.h"
 #include "cli/cliworld.h"
 #include "fault/fingerprint.h"
+#include "oldalbumgenerator.h"
 #include "treegenerator.h"
 
 #include <CLI/CLI.hpp>
@@ -94,6 +95,7 @@ public:
     void killUpgrades();
     void killPublications();
     void killAlbums();
+    void killOldAlbums();
 
 private:
     void run(const QStringList& arguments) const
@@ -295,6 +297,13 @@ void KillTest::killAlbums()
     killPublication();
 }
 
+void KillTest::killOldAlbums()
+{
+    makeBase(1'000);
+    const QByteArray album = bench::GenerateOldAlbum(STEMWRIGHT_OLD_ALBUM, {3'000, 20'000});
+    killChange({"--yes", "import-album", m_file, m_world.write("old.mdb", album)});
+}
+
 void KillTest::killPublication()
 {
     Copy(m_base, m_file);
@@ -325,7 +334,7 @@ int main(int argc, char** argv)
         {"import", &KillTest::killImports},   {"edit", &KillTest::killEdits},
         {"delete", &KillTest::killDeletions}, {"convert", &KillTest::killConversions},
         {"upgrade", &KillTest::killUpgrades}, {"publish", &KillTest::killPublications},
-        {"album", &KillTest::killAlbums}};
+        {"album", &KillTest::killAlbums},     {"oldalbum", &KillTest::killOldAlbums}};
     Options options;
     CLI::App app("Ends the program at random moments and looks at what it leaves behind.");
     app.add_option("WORK", options.work, "What to interrupt")->required()->check(CLI::IsMember(works));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/dialogtalk.h"
 #include "base/error.h"
+#include "store/tables/createtables.h"
 #include "tour.h"
 
 #include <QtCore/QCommandLineParser>
@@ -71,6 +72,20 @@ QPalette DarkPalette()
     return palette;
 }
 
+/// Gives the family file names as an old album leaves them, on a picture of the children in the snow.
+void AddOldNames(const QString& familyFile)
+{
+    Connection connection(familyFile, OpenMode::ReadWrite);
+    CreatePreV2IndiTable(connection);
+    CreatePreV2Pic2PersonTable(connection);
+    connection.execute(QStringLiteral(
+        "INSERT INTO PreV2Indi (Name) VALUES ('Whiskerton, H'), ('the snowman'), ('Whiskerton, Tobias'), "
+        "('Whiskerton, Clementine'), ('Rufus'), ('Old Grimalkin');"
+        "INSERT INTO PreV2Pic2Person (PicId, PersId, X, Y) VALUES (7, 1, '446', '425'), (7, 2, '223', '375'), "
+        "(7, 3, '580', '380'), (5, 3, '122', '230'), (7, 4, '705', '435'), (5, 4, '250', '243'), (8, 4, '345', '185'), "
+        "(7, 5, '115', '470'), (1, 6, '436', '337')"));
+}
+
 int Run(const Wishes& wishes)
 {
     const QTemporaryDir folder;
@@ -83,6 +98,7 @@ int Run(const Wishes& wishes)
         !QFile::copy(QStringLiteral(STEMWRIGHT_SAMPLES "/felinity.ged"), tree)) {
         throw Error(QStringLiteral("The family file cannot be copied to %1").arg(folder.path()));
     }
+    AddOldNames(file);
     MemorySettings settings;
     DialogTalk talk(settings);
     const FixedClock clock(QDateTime({2026, 5, 17}, {20, 15}));

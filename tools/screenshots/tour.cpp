@@ -81,6 +81,7 @@ void Tour::album(const QString& familyFile)
     menus();
     wizard();
     webPages();
+    oldAlbum();
     import();
 }
 
@@ -161,6 +162,32 @@ void Tour::files()
             m_camera.take(window, QStringLiteral("frmproperties"));
         });
     m_camera.takeModal(QStringLiteral("frmAbout"), [this] { trigger("mnuAbout"); });
+}
+
+/// The names are those that the family file was given beforehand.
+void Tour::oldAlbum()
+{
+    m_camera.inside(
+        QStringLiteral("frmImpPreV2Album"), [this] { trigger("mnuPreV2"); },
+        [this](QWidget& window) {
+            control<QLineEdit>(window, "txtInputFilename").setText(ShownPath("Old Album.mdb"));
+            m_camera.take(window, QStringLiteral("frmimpprev2album"));
+        });
+    const auto matching = [this](QWidget& window) {
+        m_camera.take(window, QStringLiteral("frmmatchingnames"));
+        press(window, "cmdNext");
+        m_camera.take(window, QStringLiteral("frmmatchingnames-none"));
+        const auto stop = [](QWidget& box) { static_cast<QMessageBox&>(box).button(QMessageBox::Yes)->click(); };
+        m_camera.inside(
+            QStringLiteral("messageBox"), [this, &window] { press(window, "cmdCancel"); }, stop);
+    };
+    m_camera.inside(
+        QStringLiteral("frmIndisInOldAlbum"), [this] { trigger("mnuMatchNames"); },
+        [this, matching](QWidget& window) {
+            m_camera.take(window, QStringLiteral("frmindisinoldalbum"));
+            m_camera.inside(
+                QStringLiteral("frmMatchingNames"), [this, &window] { press(window, "cmdMatch"); }, matching);
+        });
 }
 
 /// The import is done to its end: file, questions, report.

@@ -27,6 +27,7 @@ private:
     void queries();
     void people();
     void files();
+    void oldAlbum();
     void import();
     void menus();
     void wizard();

@@ -400,4 +400,16 @@ void RequireShortText(const QString& text, const QString& what)
     }
 }
 
+QString CutToColumn(const QString& text)
+{
+    if (text.size() <= maxTextLength) {
+        return text;
+    }
+    QString cut = text.left(maxTextLength);
+    if (cut.back().isHighSurrogate()) {
+        cut.chop(1);
+    }
+    return cut;
+}
+
 } // namespace stemwright

@@ -52,6 +52,9 @@ inline constexpr int maxTextLength = 255;
 /// Throws Error when a text is longer than a text column holds. `what` names it: "The title".
 void RequireShortText(const QString& text, const QString& what);
 
+/// As much of the beginning of a text as a text column holds. Null stays Null.
+QString CutToColumn(const QString& text);
+
 /// The number of event slots "_FA1", "_FA2", ... of an individual and of a family.
 inline constexpr int individualEventSlots = 50;
 inline constexpr int familyEventSlots = 20;

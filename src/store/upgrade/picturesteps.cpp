@@ -72,7 +72,7 @@ void MoveAllIn(UpgradeRun& run, const FileColumns& columns, const std::function<
         return;
     }
     const std::vector<NamedFile> files = FilesNamedBy(run.work, columns);
-    PictureSearch search(QFileInfo(run.path).absolutePath());
+    PictureSearch search({QFileInfo(run.path).absolutePath()});
     const auto progress = run.environment.talk.progress(upgrademessages::upgrading, upgrademessages::movingPictures);
     for (std::size_t done = 0; done < files.size(); ++done) {
         progress->setPercent(static_cast<int>(100 * done / files.size()));
