@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "app/progresswindow.h"
+#include "app/common/progresswindow.h"
 #include "quietdesk.h"
 #include "stopwatch.h"
 #include "store/file/familyfile.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
+#include "app/common/namelistpanel.h"
 #include "app/frmalbum.h"
-#include "app/namelistpanel.h"
 #include "quietdesk.h"
 #include "stopwatch.h"
 

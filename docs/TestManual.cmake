@@ -54,7 +54,7 @@ endforeach()
 
 # Windows that come and go by themselves take no key.
 set(WITHOUT_PAGE frmsplash frmprogress)
-file(GLOB WINDOWS ${SOURCES}/*.cpp)
+file(GLOB_RECURSE WINDOWS ${SOURCES}/*.cpp)
 foreach(WINDOW IN LISTS WINDOWS)
   file(READ ${WINDOW} TEXT)
   string(REGEX MATCHALL "setObjectName\\(QStringLiteral\\(\"frm[A-Za-z0-9]+\"\\)\\)" NAMES "${TEXT}")

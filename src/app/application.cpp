@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/application.h"
 
-#include "app/messages.h"
+#include "app/common/messages.h"
 #include "store/engine/engineerror.h"
 
 namespace stemwright

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmabout.h"
 
-#include "app/controls.h"
-#include "app/messages.h"
+#include "app/common/controls.h"
+#include "app/common/messages.h"
 
 #include <QtCore/QTimer>
 #include <QtGui/QIcon>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "app/filemenu.h"
-#include "app/people.h"
+#include "app/people/people.h"
 #include "base/environment.h"
 
 #include <QtWidgets/QMainWindow>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmexporttableastext.h"
 
-#include "app/controls.h"
+#include "app/common/controls.h"
 #include "export/messages.h"
 #include "export/tableexport.h"
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/frmwelcome.h"
 
-#include "app/controls.h"
-#include "app/messages.h"
+#include "app/common/controls.h"
+#include "app/common/messages.h"
 
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/gedcomimport.h"
 
-#include "app/controls.h"
+#include "app/common/controls.h"
 #include "gedcom/importcommand.h"
 
 #include <QtGui/QFontDatabase>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 #include "app/application.h"
-#include "app/dialogtalk.h"
+#include "app/common/dialogtalk.h"
+#include "app/common/help.h"
+#include "app/common/messages.h"
 #include "app/frmabout.h"
 #include "app/frmalbum.h"
-#include "app/help.h"
-#include "app/messages.h"
 #include "base/error.h"
 #include "base/version.h"
 

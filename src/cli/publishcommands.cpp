@@ -5,8 +5,8 @@
 #include "index/descendants.h"
 #include "store/tables/defaultrows.h"
 #include "web/messages.h"
-#include "web/setupediting.h"
-#include "web/setupmanager.h"
+#include "web/setup/setupediting.h"
+#include "web/setup/setupmanager.h"
 #include "web/sitebuild.h"
 
 namespace stemwright

@@ -3,10 +3,10 @@
 #include "cli/setupcommands.h"
 
 #include "cli/listing.h"
-#include "web/setupediting.h"
-#include "web/setupmanager.h"
-#include "web/setupmodel.h"
-#include "web/setupviewing.h"
+#include "web/setup/setupediting.h"
+#include "web/setup/setupmanager.h"
+#include "web/setup/setupmodel.h"
+#include "web/setup/setupviewing.h"
 
 namespace stemwright
 {

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/listing.h"
 #include "cli/setupcommands.h"
-#include "web/itemcatalogue.h"
-#include "web/itemselection.h"
+#include "web/setup/itemcatalogue.h"
+#include "web/setup/itemselection.h"
 
 namespace stemwright
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/listing.h"
 #include "cli/setupcommands.h"
-#include "web/setupediting.h"
+#include "web/setup/setupediting.h"
 
 namespace stemwright
 {

@@ -5,10 +5,10 @@
 #include "album/modblob.h"
 #include "base/files.h"
 #include "base/version.h"
-#include "web/backgroundstyles.h"
-#include "web/escape.h"
-#include "web/templates.h"
-#include "web/treelinks.h"
+#include "web/html/escape.h"
+#include "web/html/templates.h"
+#include "web/links/treelinks.h"
+#include "web/setup/backgroundstyles.h"
 
 namespace stemwright
 {

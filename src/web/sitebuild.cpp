@@ -3,18 +3,18 @@
 #include "web/sitebuild.h"
 
 #include "base/error.h"
-#include "web/albumpages.h"
-#include "web/chartpages.h"
-#include "web/collapsitree.h"
 #include "web/commonpages.h"
+#include "web/links/treelinks.h"
 #include "web/messages.h"
-#include "web/nameindex.h"
-#include "web/outlinepages.h"
 #include "web/outputfolder.h"
-#include "web/setupchecks.h"
+#include "web/people/nameindex.h"
+#include "web/pictures/albumpages.h"
+#include "web/setup/setupchecks.h"
 #include "web/standardfiles.h"
-#include "web/treelinks.h"
 #include "web/treelist.h"
+#include "web/trees/chartpages.h"
+#include "web/trees/collapsitree.h"
+#include "web/trees/outlinepages.h"
 #include "web/worktables.h"
 
 #include <QtCore/QDir>
@@ -258,6 +258,13 @@ std::optional<QString> BuildWebPages(FamilyFile& file, const SiteRequest& reques
         environment.talk.tell(webmessages::CannotBuild(ErrorText(exception)));
         return std::nullopt;
     }
+}
+
+std::optional<QString> BuildWebPages(FamilyFile& file, SetupEditing& editing, Environment& environment)
+{
+    std::optional<QString> index;
+    editing.saveAndRun([&] { index = BuildWebPages(file, {editing.setupName(), {}}, environment); });
+    return index;
 }
 
 bool WantsConfirmation(const Settings& settings)

@@ -4,8 +4,8 @@
 
 #include "base/error.h"
 #include "base/files.h"
-#include "web/backgroundstyles.h"
 #include "web/messages.h"
+#include "web/setup/backgroundstyles.h"
 
 #include <QtCore/QDir>
 

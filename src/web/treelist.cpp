@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "web/treelist.h"
 
-#include "web/escape.h"
-#include "web/pagefile.h"
-#include "web/templates.h"
-#include "web/treelinks.h"
+#include "web/html/escape.h"
+#include "web/html/pagefile.h"
+#include "web/html/templates.h"
+#include "web/links/treelinks.h"
 
 namespace stemwright
 {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "web/siterun.h"
+#include "web/run/siterun.h"
 
 namespace stemwright
 {

@@ -3,9 +3,9 @@
 #include "web/worktables.h"
 
 #include "store/engine/schema.h"
-#include "web/ancestorchain.h"
-#include "web/nameindex.h"
-#include "web/picturelinks.h"
+#include "web/links/picturelinks.h"
+#include "web/people/nameindex.h"
+#include "web/run/ancestorchain.h"
 
 namespace stemwright
 {

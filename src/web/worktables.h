@@ -3,7 +3,7 @@
 #pragma once
 
 #include "store/engine/connection.h"
-#include "web/siterun.h"
+#include "web/run/siterun.h"
 
 namespace stemwright
 {

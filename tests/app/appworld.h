@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/dialogtalk.h"
+#include "app/common/dialogtalk.h"
 #include "app/frmalbum.h"
 #include "app/hand.h"
 #include "support/testworld.h"

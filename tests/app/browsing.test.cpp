@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 #include "app/appworld.h"
+#include "app/common/progresswindow.h"
 #include "app/frmabout.h"
-#include "app/progresswindow.h"
 
 #include <QtCore/QDir>
 #include <QtGui/QAction>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 #include "app/application.h"
-#include "app/dialogtalk.h"
+#include "app/common/dialogtalk.h"
 
 #include <QtCore/QLoggingCategory>
 

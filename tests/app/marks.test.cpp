@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 #include "app/appworld.h"
-#include "app/recordeditor.h"
+#include "app/pictures/recordeditor.h"
 
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>

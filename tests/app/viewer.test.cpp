@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 #include "app/appworld.h"
-#include "app/frmwebbrowser.h"
+#include "app/viewer/frmwebbrowser.h"
 
 #include <QtCore/QDir>
 #include <QtGui/QDesktopServices>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 #include "app/appworld.h"
-#include "app/frmconfirm.h"
-#include "app/frmitemstoinclude.h"
+#include "app/wizard/frmconfirm.h"
+#include "app/wizard/frmitemstoinclude.h"
 
 #include <QtCore/QFileInfo>
 #include <QtGui/QAction>

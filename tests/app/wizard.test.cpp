@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 #include "app/appworld.h"
-#include "app/frmsitewizard.h"
-#include "app/people.h"
+#include "app/people/people.h"
+#include "app/wizard/frmsitewizard.h"
 #include "base/files.h"
-#include "web/treeediting.h"
+#include "web/setup/treeediting.h"
 
 #include <QtCore/QDir>
 #include <QtWidgets/QCheckBox>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/celltexts.h"
+#include "web/html/celltexts.h"
 
 #include <gtest/gtest.h>
 

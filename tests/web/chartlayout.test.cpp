@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/chartlayout.h"
+#include "web/trees/chartlayout.h"
 
-#include "web/chartcuts.h"
+#include "web/trees/chartcuts.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/escape.h"
+#include "web/html/escape.h"
 
 #include "support/testworld.h"
 

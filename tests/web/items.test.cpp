@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 #include "base/error.h"
-#include "web/itemcatalogue.h"
-#include "web/itemselection.h"
-#include "web/setupmanager.h"
+#include "web/setup/itemcatalogue.h"
+#include "web/setup/itemselection.h"
+#include "web/setup/setupmanager.h"
 #include "web/setupworld.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/pageassignment.h"
+#include "web/run/pageassignment.h"
 
 #include "support/familybuilder.h"
 #include "support/testworld.h"
-#include "web/ancestorchain.h"
+#include "web/run/ancestorchain.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/privacy.h"
+#include "web/run/privacy.h"
 
 #include "support/testworld.h"
 

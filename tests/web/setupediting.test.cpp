@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/setupediting.h"
+#include "web/setup/setupediting.h"
 
-#include "web/backgroundstyles.h"
-#include "web/setupviewing.h"
+#include "web/setup/backgroundstyles.h"
+#include "web/setup/setupviewing.h"
 #include "web/setupworld.h"
 
 #include <QtCore/QDir>

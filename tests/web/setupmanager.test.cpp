@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/setupmanager.h"
+#include "web/setup/setupmanager.h"
 
-#include "web/setupediting.h"
+#include "web/setup/setupediting.h"
 #include "web/setupworld.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/setupmodel.h"
+#include "web/setup/setupmodel.h"
 
-#include "web/setupediting.h"
-#include "web/setupmanager.h"
+#include "web/setup/setupediting.h"
+#include "web/setup/setupmanager.h"
 #include "web/setupworld.h"
 
 #include <gtest/gtest.h>

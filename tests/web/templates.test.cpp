@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/templates.h"
+#include "web/html/templates.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "web/textextent.h"
+#include "web/html/textextent.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
-#include "app/dialogtalk.h"
+#include "app/common/dialogtalk.h"
 #include "base/error.h"
 #include "store/tables/createtables.h"
 #include "tour.h"

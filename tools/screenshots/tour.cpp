@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tour.h"
 
+#include "app/common/progresswindow.h"
 #include "app/frmabout.h"
-#include "app/progresswindow.h"
 
 #include <QtGui/QAction>
 #include <QtWidgets/QAbstractButton>

@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/setup/setupmanager.h"
+
+#include "base/error.h"
+#include "store/engine/schema.h"
+#include "store/tables/defaultrows.h"
+#include "web/setup/setupmessages.h"
+#include "web/setup/setupmodel.h"
+
+#include <QtCore/QRegularExpression>
+
+namespace stemwright
+{
+
+namespace
+{
+
+const QRegularExpression& Separators()
+{
+    static const QRegularExpression separators(QStringLiteral(R"([/\\])"));
+    return separators;
+}
+
+/// The name of a setup is also the last part of its output folder, whose files are replaced when pages are built: it
+/// must not lead anywhere else.
+void RequireNameOfFolder(const QString& name)
+{
+    for (const QString& part : name.split(Separators())) {
+        if (part.trimmed().isEmpty() || part == QStringLiteral(".") || part == QStringLiteral("..")) {
+            throw Error(
+                QStringLiteral("\"%1\" cannot be the name of a setup, because it is also the name of its folder.")
+                    .arg(name));
+        }
+    }
+}
+
+void RequireStorableFolder(const QString& folder)
+{
+    if (folder.size() > maxTextLength) {
+        throw Error(QStringLiteral("This name is too long: the output folder %1 would have more than %2 characters.")
+                        .arg(folder)
+                        .arg(maxTextLength));
+    }
+}
+
+/// Copies the rows that belong to a setup in one of the other two tables, in their order.
+void CloneRows(Connection& connection, const QString& table, const QString& columns, const QString& source,
+               const QString& name)
+{
+    Statement statement = connection.prepare(
+        QStringLiteral("INSERT INTO %1 (SetupName, %2) SELECT ?1, %2 FROM %1 WHERE rtrim(SetupName) = rtrim(?2)"
+                       " COLLATE NOCASE ORDER BY rowid")
+            .arg(table, columns));
+    statement.bind(1, name).bind(2, source).run();
+}
+
+QString FolderOf(Connection& connection, const SetupRow& setup)
+{
+    Statement statement = connection.prepare(QStringLiteral("SELECT WebPageFolder FROM WebSiteInfo WHERE rowid = ?1"));
+    statement.bind(1, setup.row).step();
+    return statement.text(0);
+}
+
+} // namespace
+
+QString FolderOfClone(const QString& sourceFolder, const QString& name)
+{
+    QString source = sourceFolder;
+    const QChar separator = source.contains(u'\\') && !source.contains(u'/') ? u'\\' : u'/';
+    static const QRegularExpression superfluousEnd(QStringLiteral(R"((?<=[^/\\:])[/\\]+$)"));
+    source.remove(superfluousEnd);
+    const qsizetype end = source.lastIndexOf(Separators());
+    const bool isPagesFolder = source.mid(end + 1).compare(QStringLiteral("fampages"), Qt::CaseInsensitive) == 0;
+    const QString parent = isPagesFolder ? source + separator : source.left(end + 1);
+    return parent + name;
+}
+
+SetupManager::SetupManager(Connection& connection, Environment& environment)
+    : NamedRowManager(connection, environment, SetupKind(),
+                      {setupmessages::NoSetupName, setupmessages::DuplicateSetupName, setupmessages::ConfirmSetupDelete,
+                       setupmessages::NewNameOfSetup, setupmessages::SetupFailed})
+{
+}
+
+void SetupManager::select(const QString& name)
+{
+    selectRow(name);
+    m_wizardMode = WizardMode::Edit;
+}
+
+void SetupManager::requireUsableName(const QString& name) const
+{
+    RequireNameOfFolder(name);
+}
+
+void SetupManager::writeNew(const QString& name)
+{
+    const ApplicationFolder& application = environment().application;
+    RequireStorableFolder(application.pagesFolder() + u'/' + name);
+    WriteDefaultSetup(connection(), name, application);
+    WriteDefaultSelectedItems(connection(), name);
+    WriteDefaultTreeHead(connection(), name);
+    FollowModel(connection(), name, environment());
+    m_wizardMode = WizardMode::New;
+}
+
+void SetupManager::writeClone(const NamedRow& source, const QString& name)
+{
+    const QString sourceFolder = FolderOf(connection(), source);
+    const QString folder =
+        FolderOfClone(sourceFolder.isEmpty() ? environment().application.pagesFolder() : sourceFolder, name);
+    RequireStorableFolder(folder);
+    CloneRow(connection(), QStringLiteral("WebSiteInfo"), source.row,
+             {{QStringLiteral("SetupName"), name}, {QStringLiteral("WebPageFolder"), folder}});
+    CloneRows(connection(), QStringLiteral("SelectedItems"), QStringLiteral("ItemValue"), source.name, name);
+    CloneRows(connection(), QStringLiteral("TreeHeads"),
+              QStringLiteral("TreeHeadId, TreeHeadName, GenDisplayType, IconNo"), source.name, name);
+    m_wizardMode = WizardMode::New;
+}
+
+void SetupManager::giveName(const NamedRow& setup, const QString& name)
+{
+    NamedRowManager::giveName(setup, name);
+    // The blank after the new name is how earlier releases store these rows; comparing names passes over it.
+    const QString change = QStringLiteral("SET SetupName = '") + NameInSql(name) + QStringLiteral(" ' ") +
+                           QStringLiteral("WHERE SetupName = '") + NameInSql(setup.name) + u'\'';
+    connection().executeJet(QStringLiteral("UPDATE SelectedItems ") + change);
+    connection().executeJet(QStringLiteral("UPDATE TreeHeads ") + change);
+}
+
+void SetupManager::erase(const NamedRow& setup)
+{
+    const QString condition = QStringLiteral("WHERE SetupName = '") + NameInSql(setup.name) + u'\'';
+    connection().executeJet(QStringLiteral("DELETE FROM SelectedItems ") + condition);
+    connection().executeJet(QStringLiteral("DELETE FROM TreeHeads ") + condition);
+    NamedRowManager::erase(setup);
+}
+
+} // namespace stemwright

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Stemwright authors
+// SPDX-License-Identifier: MIT
+#include "web/setup/setupviewing.h"
+
+#include "base/error.h"
+#include "web/setup/setup.h"
+#include "web/setup/setupmessages.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+namespace stemwright
+{
+
+QStringList SetupsToView(Connection& connection, Talk& talk)
+{
+    QStringList names;
+    try {
+        Statement statement = connection.prepareJet(QStringLiteral("SELECT * FROM WebSiteInfo"));
+        const int name = statement.column(u"SetupName");
+        while (statement.step()) {
+            names << statement.text(name);
+        }
+    } catch (const std::exception& exception) {
+        talk.tell(setupmessages::SetupFailed(ErrorText(exception)));
+        return {};
+    }
+    if (names.isEmpty()) {
+        talk.tell(setupmessages::NoSetupToView());
+    }
+    return names;
+}
+
+std::optional<QString> FindPagesToView(Connection& connection, const QString& setupName, Talk& talk)
+{
+    try {
+        const SetupRow found = RequireSetup(connection, setupName);
+        Statement statement =
+            connection.prepareJet(QStringLiteral("SELECT WebPageFolder FROM WebSiteInfo WHERE SetupName = '") +
+                                  NameInSql(found.name) + u'\'');
+        const QString folder = statement.step() ? statement.text(0) : QString();
+        const QFileInfo firstPage(QDir(folder), QStringLiteral("index.html"));
+        if (!folder.isEmpty() && firstPage.isFile()) {
+            return firstPage.absoluteFilePath();
+        }
+        talk.tell(setupmessages::PagesNotYetCreated());
+    } catch (const std::exception& exception) {
+        talk.tell(setupmessages::SetupFailed(ErrorText(exception)));
+    }
+    return std::nullopt;
+}
+
+} // namespace stemwright
