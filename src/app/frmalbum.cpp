@@ -63,7 +63,7 @@ frmAlbum::frmAlbum(Environment& environment)
 {
     setObjectName(QStringLiteral("frmAlbum"));
     setAcceptDrops(true);
-    resize(1100, 760);
+    ResizeForLetters(*this, 1100, 760);
     cboQuery->setObjectName(QStringLiteral("cboQuery"));
     cboQuery->setToolTip(QStringLiteral("Picture list query"));
     cboQuery->setSizeAdjustPolicy(QComboBox::AdjustToContents);

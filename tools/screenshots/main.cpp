@@ -86,6 +86,15 @@ void AddOldNames(const QString& familyFile)
         "(7, 5, '115', '470'), (1, 6, '436', '337')"));
 }
 
+/// Lets the trees that have no head yet begin at somebody with a family: without a head no pages are built.
+void AddTreeHeads(const QString& familyFile)
+{
+    Connection connection(familyFile, OpenMode::ReadWrite);
+    connection.execute(QStringLiteral(
+        "UPDATE TreeHeads SET (TreeHeadId, TreeHeadName) = (SELECT Id, GivenName || ' ' || Surname FROM Indi "
+        "WHERE Id IN (SELECT SpouseId FROM Spouse2Fam) ORDER BY Id LIMIT 1) WHERE TreeHeadId IS NULL"));
+}
+
 int Run(const Wishes& wishes)
 {
     const QTemporaryDir folder;
@@ -99,6 +108,7 @@ int Run(const Wishes& wishes)
         throw Error(QStringLiteral("The family file cannot be copied to %1").arg(folder.path()));
     }
     AddOldNames(file);
+    AddTreeHeads(file);
     MemorySettings settings;
     DialogTalk talk(settings);
     const FixedClock clock(QDateTime({2026, 5, 17}, {20, 15}));

@@ -157,7 +157,10 @@ int ForLetters(const QWidget& window, int pixels)
 
 void ResizeForLetters(QWidget& window, int width, int height)
 {
-    window.resize(ForLetters(window, width), ForLetters(window, height));
+    // What the system draws around a window takes room as well.
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+    const QSize room = window.screen()->availableSize() - QSize(0, title);
+    window.resize(QSize(ForLetters(window, width), ForLetters(window, height)).boundedTo(room));
 }
 
 void LetCopy(QAbstractItemView& view)

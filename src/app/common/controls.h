@@ -47,7 +47,8 @@ QDialogButtonBox* MakeOkCancel(QDialog& window);
 /// A length in pixels, given for letters of the usual size, for those of the window.
 int ForLetters(const QWidget& window, int pixels);
 
-/// Gives a window the size that it has at first, which grows with the user's letters.
+/// Gives a window the size that it has at first, in pixels: it grows with the user's letters, as far as the screen
+/// goes.
 void ResizeForLetters(QWidget& window, int width, int height);
 
 /// Makes Ctrl+C copy the selected rows of a list or grid as lines of text with tabs between the columns.
