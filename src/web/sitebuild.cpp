@@ -19,6 +19,8 @@
 
 #include <QtCore/QDir>
 
+#include <future>
+
 namespace stemwright
 {
 
@@ -193,17 +195,19 @@ private:
         }
     }
 
-    /// The tables become lasting only after the last page of the site.
+    /// The work tables are written beside the index and the personal pages, which only read what the run knows, too.
+    /// They become lasting after the last page of the site.
     void buildIndex()
     {
         m_newTables.emplace(m_connection);
-        WriteWorkTables(*m_run, m_connection);
+        std::future<void> tables = std::async(std::launch::async, [this] { WriteWorkTables(*m_run, m_connection); });
         const std::vector<TreePosition> persons = PersonsInIndexOrder(*m_run);
         StepProgress progress(*m_progress,
                               m_run->settings.personalPages ? webmessages::BuildingIndexAndPersonalPages()
                                                             : webmessages::BuildingIndex(),
                               persons.size());
         WriteNameIndex(*m_run, persons, progress);
+        tables.get();
     }
 
     void buildAlbum()
