@@ -195,12 +195,13 @@ private:
         }
     }
 
-    /// The work tables are written beside the index and the personal pages, which only read what the run knows, too.
-    /// They become lasting after the last page of the site.
+    /// The work tables are filled beside the index and the personal pages: both only read what the run knows. The
+    /// tables become lasting after the last page of the site.
     void buildIndex()
     {
         m_newTables.emplace(m_connection);
-        std::future<void> tables = std::async(std::launch::async, [this] { WriteWorkTables(*m_run, m_connection); });
+        MakeWorkTables(m_connection);
+        std::future<void> tables = std::async(std::launch::async, [this] { FillWorkTables(*m_run, m_connection); });
         const std::vector<TreePosition> persons = PersonsInIndexOrder(*m_run);
         StepProgress progress(*m_progress,
                               m_run->settings.personalPages ? webmessages::BuildingIndexAndPersonalPages()

@@ -83,11 +83,18 @@ private:
     Statement m_insert;
 };
 
-void WriteIndi2Page(const SiteRun& run, Connection& connection)
+const TableDefinition& Indi2Page()
 {
-    const TableDefinition& table = TableNamed(u"Indi2Page");
-    DropTable(connection, table);
-    CreateBareTable(connection, table);
+    return TableNamed(u"Indi2Page");
+}
+
+const TableDefinition& UniqueIds()
+{
+    return TableNamed(u"UniqueIds");
+}
+
+void FillIndi2Page(const SiteRun& run, Connection& connection)
+{
     RowWriter writer(run, connection);
     for (const PublishedTree& tree : run.trees) {
         for (EntryNumber number = 0; number < tree.walk.entries().size(); ++number) {
@@ -96,7 +103,8 @@ void WriteIndi2Page(const SiteRun& run, Connection& connection)
             }
         }
     }
-    CreateIndexes(connection, table);
+    // Sorting once is faster than finding the place of each row.
+    CreateIndexes(connection, Indi2Page());
 }
 
 bool IsRepeated(const SiteRun& run, TreePosition person)
@@ -107,11 +115,8 @@ bool IsRepeated(const SiteRun& run, TreePosition person)
     });
 }
 
-void WriteUniqueIds(const SiteRun& run, Connection& connection)
+void FillUniqueIds(const SiteRun& run, Connection& connection)
 {
-    const TableDefinition& table = TableNamed(u"UniqueIds");
-    DropTable(connection, table);
-    CreateTable(connection, table);
     Statement insert =
         connection.prepare(QStringLiteral("INSERT INTO UniqueIds (Id, DuplicatesAlreadyFound) VALUES (?1, ?2)"));
     for (TreePosition person = 0; person < run.tree.individuals(); ++person) {
@@ -123,10 +128,18 @@ void WriteUniqueIds(const SiteRun& run, Connection& connection)
 
 } // namespace
 
-void WriteWorkTables(const SiteRun& run, Connection& connection)
+void MakeWorkTables(Connection& connection)
 {
-    WriteIndi2Page(run, connection);
-    WriteUniqueIds(run, connection);
+    DropTable(connection, Indi2Page());
+    CreateBareTable(connection, Indi2Page());
+    DropTable(connection, UniqueIds());
+    CreateTable(connection, UniqueIds());
+}
+
+void FillWorkTables(const SiteRun& run, Connection& connection)
+{
+    FillIndi2Page(run, connection);
+    FillUniqueIds(run, connection);
 }
 
 } // namespace stemwright

@@ -60,11 +60,11 @@ void Lock(SQLite::Database& database)
     database.exec("PRAGMA synchronous=FULL");
 }
 
-/// A connection serves one thread, so the engine need not lock it at every call.
+/// While one thread writes a site's tables, windows in another may want to show a picture: the engine makes them wait.
 int OpenFlags(OpenMode mode)
 {
     const int create = mode == OpenMode::CreateNew ? SQLite::OPEN_CREATE : 0;
-    return SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX | create;
+    return SQLite::OPEN_READWRITE | SQLite::OPEN_FULLMUTEX | create;
 }
 
 /// The engine itself looks only when it begins a journal, which it keeps as long as it holds the file.
