@@ -189,11 +189,11 @@ QStringList QueryEditing::places() const
 
 bool QueryEditing::hasNameIndex()
 {
-    if (m_connection.prepare(QStringLiteral("SELECT 1 FROM Indi LIMIT 1")).step()) {
-        return true;
+    const bool anybody = HasIndividuals(m_connection);
+    if (!anybody) {
+        m_environment.talk.tell(querymessages::NoNameIndex());
     }
-    m_environment.talk.tell(querymessages::NoNameIndex());
-    return false;
+    return anybody;
 }
 
 bool QueryEditing::save()

@@ -102,7 +102,7 @@ TEST_F(BrowsingTest, ThumbnailsAreShownWhileAnotherFileTakesTheirPlace)
 TEST_F(BrowsingTest, TheWindowComesBackAsItWasLeft)
 {
     start(familyFile(1));
-    window().resize(900, 700);
+    window().resize(790, 700);
     auto* halves = &Find<QSplitter>(window(), "splHalves");
     const QPoint middle = halves->handle(1)->rect().center();
     QTest::mousePress(halves->handle(1), Qt::LeftButton, {}, middle);
@@ -111,7 +111,7 @@ TEST_F(BrowsingTest, TheWindowComesBackAsItWasLeft)
     const QList<int> sizes = halves->sizes();
     window().close();
     start();
-    EXPECT_EQ(window().size(), QSize(900, 700));
+    EXPECT_EQ(window().size(), QSize(790, 700));
     EXPECT_EQ(Find<QSplitter>(window(), "splHalves").sizes(), sizes);
 }
 
@@ -127,10 +127,14 @@ TEST_F(BrowsingTest, TheWelcomeWindowOpensCreatesAndShowsTheCats)
     start();
 
     QFile::copy(file, sample);
+    Connection(sample, OpenMode::ReadWrite).execute("UPDATE WebSiteInfo SET WebPageFolder = '/fampages/Default'");
     hand.press("frmWelcome", "cmdCats");
     hand.answer("Opening Test File");
     start();
     EXPECT_EQ(window().windowTitle(), "Stemwright - " + sample);
+    EXPECT_EQ(stored("SELECT WebPageFolder FROM WebSiteInfo"),
+              QStringList(world.application.pagesFolder() + "/Default"));
+    start();
 
     hand.choose("Open Existing Family File", file);
     Press(window(), "mnuOpen");

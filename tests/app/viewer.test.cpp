@@ -66,7 +66,7 @@ protected:
     void show(const QString& page, Hand::Action act)
     {
         hand.at("frmWebBrowser", std::move(act));
-        ShowWebBrowser(page, environment, nullptr);
+        ShowWebBrowser(LocalSite::published(page), environment, nullptr);
     }
 
     static QWidget& inside(QWidget& browser) { return *Find<QWidget>(browser, "webWindow").focusProxy(); }

@@ -72,13 +72,25 @@ protected:
         Press(wizard, "cmdIndex");
     }
 
-    /// Next is refused with this message, and the wizard stays.
+    /// Next is refused with this message, and the wizard stays as it is, ready for whatever is typed next.
     void refused(QWidget& wizard, const QString& message)
     {
         const QString page = pageOf(wizard);
+        const QWidget* focus = wizard.focusWidget();
         hand.answer(message);
         next(wizard);
         EXPECT_EQ(pageOf(wizard), page);
+        EXPECT_EQ(wizard.focusWidget(), focus);
+    }
+
+    /// The sample of a background style is shown in its colours, whose files are not beside it.
+    void viewSample(QWidget& wizard)
+    {
+        hand.at("frmWebBrowser", [](QWidget& browser) {
+            EXPECT_TRUE(Await([&browser] { return browser.grab().toImage().pixelColor(5, 5) != Qt::white; }));
+            Press(browser, "cmdClose");
+        });
+        Press(wizard, "cmdViewSample");
     }
 
     /// Cancels with changes that are not saved.
@@ -128,6 +140,7 @@ TEST_F(WizardTest, FromANewSetupToTheFinishedSiteOfTheSample)
             Press(wizard, "chkPersPages");
             next(wizard);
             refused(wizard, "No Tree Head");
+            viewSample(wizard);
             for (int tree = 0; tree < TreeDisplays().size(); ++tree) {
                 if (tree > 0) {
                     Press(wizard, "cmdAdd");
@@ -160,6 +173,7 @@ TEST_F(WizardTest, FromANewSetupToTheFinishedSiteOfTheSample)
     });
     Press(window(), "mnuCreateWebPages");
     EXPECT_TRUE(ReadWholeFile(site + "/main.html").contains("Nine Lives"));
+    EXPECT_TRUE(ReadWholeFile(site + "/main.html").contains("About <B>cats</B>."));
     EXPECT_TRUE(ReadWholeFile(site + "/bottom.html").contains("../cats.html"));
     for (const char* pages :
          {"Outline_*.html", "DescTree_*.html", "CTree_*.html", "AncTree_*.html", "PersPage_*.html"}) {
@@ -288,7 +302,8 @@ TEST_F(WizardTest, TreesAreAddedEditedAndDeleted)
         Choose(wizard, "cboIcon", "3");
         Press(wizard, "cmdApply");
         EXPECT_FALSE(IsEnabled(wizard, "cboDisplay"));
-        Press(wizard, "cmdAdd");
+        QTest::keyClick(&Find<QWidget>(wizard, "cmdAdd"), Qt::Key_Return);
+        EXPECT_EQ(pageOf(wizard), "Display options");
         Choose(wizard, "cboDisplay", "CollapsiTree");
         EXPECT_EQ(Shown(wizard, "dtgTrees"), QStringList({"Root, Adam|Outline", "|CollapsiTree"}));
         auto& grid = Find<QAbstractItemView>(wizard, "dtgTrees");
@@ -308,6 +323,32 @@ TEST_F(WizardTest, TreesAreAddedEditedAndDeleted)
     });
     EXPECT_EQ(Rows(world.connection(), "SELECT TreeHeadId, GenDisplayType, IconNo FROM TreeHeads"),
               QStringList("2|Outline|3"));
+}
+
+TEST_F(WizardTest, WhereNobodyIsThereIsNoHeadToChoose)
+{
+    ASSERT_TRUE(CreateFamilyFile(world.file, world.path("nobody.kvf"), environment));
+    wizard([&](QWidget& wizard) {
+        goTo(wizard, "Display options");
+        hand.answer("The index of names does not exist. It will be generated");
+        Press(wizard, "cmdIndex");
+        Press(wizard, "cmdCancel");
+    });
+}
+
+TEST_F(WizardTest, WindowsFitTheScreenAlsoWhereTheyStoodOnALargerOne)
+{
+    QWidget large;
+    large.resize(4000, 3000);
+    world.settings.setValue(setting::windows, "frmSiteWizard", large.saveGeometry().toBase64());
+    wizard([&](QWidget& wizard) {
+        const QSize screen = wizard.screen()->availableSize();
+        EXPECT_EQ(wizard.size().boundedTo(screen), wizard.size());
+        goTo(wizard, "General");
+        QTest::keyClick(&Find<QWidget>(wizard, "spnMaxTotalGens"), Qt::Key_Return);
+        EXPECT_FALSE(IsEnabled(wizard, "cmdSave")) << "the same number is no change";
+        Press(wizard, "cmdCancel");
+    });
 }
 
 TEST_F(WizardTest, PagesOfANewSetupComeInTheirOrderAndFinishGoesToWhatIsMissing)

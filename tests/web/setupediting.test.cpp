@@ -35,8 +35,11 @@ TEST_F(SetupEditingTest, TypedValuesAreStoredAsTheirColumnsHoldThemOrRefused)
         SCOPED_TRACE(row.join(u' ').toStdString());
         const QString sql = "SELECT " + column + " FROM WebSiteInfo";
         const bool isRefused = expected == "refused";
+        const auto known = std::ranges::find(SetupColumns(), column, &SetupColumn::name);
+        const bool hasWords = known != SetupColumns().end() && !known->inWords.isEmpty();
+        const QString& subject = hasWords ? known->inWords : column;
         const QStringList stored = isRefused ? world.column(sql) : QStringList{expected};
-        EXPECT_EQ(ErrorOf([&] { editing.set(column, typed); }).contains(column), isRefused);
+        EXPECT_EQ(ErrorOf([&] { editing.set(column, typed); }).contains(subject), isRefused);
         EXPECT_EQ(world.column(sql), stored);
         if (!isRefused) {
             editing.set(column, editing.settingText(SetupColumnNamed(column)));

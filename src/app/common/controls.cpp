@@ -52,6 +52,45 @@ private:
     Settings& m_settings;
 };
 
+/// Return on a button presses it, as the frame around it says; Qt would press the window's default button.
+class Button : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            click();
+        } else {
+            QPushButton::keyPressEvent(event);
+        }
+    }
+};
+
+class WheelGuard : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::Wheel || static_cast<QWidget*>(watched)->hasFocus()) {
+            return false;
+        }
+        event->ignore();
+        return true;
+    }
+};
+
+/// The part of the screen that a window may take, without what the system draws around it.
+QRect RoomFor(const QWidget& window)
+{
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+    return window.screen()->availableGeometry().adjusted(0, title, 0, 0);
+}
+
 void CopySelectedRows(const QAbstractItemView& view)
 {
     const QAbstractItemModel& model = *view.model();
@@ -72,7 +111,7 @@ void CopySelectedRows(const QAbstractItemView& view)
 
 QPushButton* MakeButton(const char* name, const QString& caption, const QString& toolTip)
 {
-    auto* button = new QPushButton(caption);
+    auto* button = new Button(caption);
     button->setObjectName(QLatin1StringView(name));
     button->setToolTip(toolTip);
     button->setAutoDefault(false);
@@ -157,10 +196,13 @@ int ForLetters(const QWidget& window, int pixels)
 
 void ResizeForLetters(QWidget& window, int width, int height)
 {
-    // What the system draws around a window takes room as well.
-    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
-    const QSize room = window.screen()->availableSize() - QSize(0, title);
-    window.resize(QSize(ForLetters(window, width), ForLetters(window, height)).boundedTo(room));
+    window.resize(QSize(ForLetters(window, width), ForLetters(window, height)).boundedTo(RoomFor(window).size()));
+}
+
+void LetWheelPass(QWidget& control)
+{
+    control.setFocusPolicy(Qt::StrongFocus);
+    control.installEventFilter(new WheelGuard(&control));
 }
 
 void LetCopy(QAbstractItemView& view)
@@ -169,9 +211,21 @@ void LetCopy(QAbstractItemView& view)
     QObject::connect(copy, &QShortcut::activated, &view, [&view] { CopySelectedRows(view); });
 }
 
+void PlaceOnScreen(QWidget& window)
+{
+    QRect place(QPoint(), window.size());
+    place.moveCenter(RoomFor(window).center());
+    window.move(place.topLeft());
+}
+
 void RememberPlace(QWidget& window, Settings& settings)
 {
     window.restoreGeometry(QByteArray::fromBase64(settings.value(setting::windows, window.objectName()).toLatin1()));
+    // It may have been another screen.
+    const QSize room = RoomFor(window).size();
+    if (!window.isMaximized() && window.size().boundedTo(room) != window.size()) {
+        window.resize(window.size().boundedTo(room));
+    }
     new PlaceKeeper(window, settings);
 }
 

@@ -51,11 +51,18 @@ int ForLetters(const QWidget& window, int pixels);
 /// goes.
 void ResizeForLetters(QWidget& window, int width, int height);
 
+/// Leaves a control alone, one that is in a page that scrolls, while the wheel only passes over it.
+void LetWheelPass(QWidget& control);
+
 /// Makes Ctrl+C copy the selected rows of a list or grid as lines of text with tabs between the columns.
 void LetCopy(QAbstractItemView& view);
 
-/// Puts a window where it stood when it was closed last, or leaves it at its own size, and remembers its place from now
-/// on. The window is known by its object name. `settings` must outlive the window.
+/// Puts a window into the middle of the screen, its title bar included. Over its parent, where dialogs come up, one
+/// that is as large as the screen would lose it.
+void PlaceOnScreen(QWidget& window);
+
+/// Puts a window where it stood when it was closed last, as far as the screen goes, or leaves it at its own size, and
+/// remembers its place from now on. The window is known by its object name. `settings` must outlive the window.
 void RememberPlace(QWidget& window, Settings& settings);
 
 } // namespace stemwright

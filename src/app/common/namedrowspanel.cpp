@@ -27,6 +27,12 @@ NamedRowsPanel::NamedRowsPanel(NamedRowManager& manager, const char* list)
     LetCopy(*m_list);
     connect(m_list, &QListWidget::itemActivated, this, &NamedRowsPanel::activated);
     connect(m_list, &QListWidget::currentRowChanged, this, &NamedRowsPanel::setButtons);
+    // A click below the last row would only take away the sign of the row that the buttons act on.
+    connect(m_list, &QListWidget::itemSelectionChanged, this, [this] {
+        if (m_list->currentItem() != nullptr) {
+            m_list->currentItem()->setSelected(true);
+        }
+    });
     setFocusProxy(m_list);
     auto* buttons = new QVBoxLayout;
     buttons->addLayout(m_buttons);

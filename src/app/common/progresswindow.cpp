@@ -4,7 +4,9 @@
 
 #include "app/common/controls.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -19,6 +21,7 @@ namespace
 {
 
 constexpr qint64 millisecondsBetweenRepaints = 40;
+constexpr qint64 millisecondsToAppear = 500;
 constexpr int windowWidth = 440;
 
 } // namespace
@@ -74,7 +77,11 @@ ProgressWindow::ProgressWindow(const QString& title, const QString& caption, QWi
     : m_window(std::make_unique<Window>(title, caption, parent))
 {
     m_window->show();
-    QApplication::processEvents();
+    // Until the system has put it in its place, messages would not find it.
+    const QDeadlineTimer patience(millisecondsToAppear);
+    do {
+        QApplication::processEvents();
+    } while (!m_window->windowHandle()->isExposed() && !patience.hasExpired());
     m_sinceRepaint.start();
 }
 

@@ -62,7 +62,7 @@ void ViewWebPages(Connection& connection, Environment& environment, QWidget* par
     }
     frmSelectSetup window(connection, environment.talk, setups, parent);
     if (window.exec() == QDialog::Accepted) {
-        ShowWebBrowser(*window.page(), environment, parent);
+        ShowWebBrowser(LocalSite::published(*window.page()), environment, parent);
     }
 }
 

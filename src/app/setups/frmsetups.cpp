@@ -68,6 +68,8 @@ private:
     void runWizard()
     {
         ShowSiteWizard(m_file, m_environment, m_manager.selected(), m_manager.wizardMode(), m_picker, this);
+        // The wizard may have been left by way of other windows.
+        activateWindow();
     }
 
     FamilyFile& m_file;

@@ -4,7 +4,6 @@
 
 #include "app/common/controls.h"
 #include "app/common/messages.h"
-#include "app/viewer/siteview.h"
 #include "base/error.h"
 
 #include <QtCore/QDir>
@@ -34,14 +33,15 @@ class frmWebBrowser : public QDialog
 {
 public:
     /// Throws Error when the viewer is not installed.
-    frmWebBrowser(const QString& page, Environment& environment, QWidget* parent)
-        : QDialog(parent, Qt::Window), m_view(OpenSiteView(page, reports(environment.talk)))
+    frmWebBrowser(const LocalSite& site, Environment& environment, QWidget* parent)
+        : QDialog(parent, Qt::Window), m_view(OpenSiteView(site, reports(environment.talk)))
     {
         setObjectName(QStringLiteral("frmWebBrowser"));
         setTitle({});
         ResizeForLetters(*this, 1024, 720);
         layOut();
         addKeys();
+        PlaceOnScreen(*this);
         RememberPlace(*this, environment.settings);
         m_view->widget().setFocus();
     }
@@ -110,12 +110,12 @@ private:
 
 } // namespace
 
-void ShowWebBrowser(const QString& page, Environment& environment, QWidget* parent)
+void ShowWebBrowser(const LocalSite& site, Environment& environment, QWidget* parent)
 {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     std::unique_ptr<frmWebBrowser> window;
     try {
-        window = std::make_unique<frmWebBrowser>(page, environment, parent);
+        window = std::make_unique<frmWebBrowser>(site, environment, parent);
     } catch (const Error&) {
         // Told by nobody: the site is shown all the same.
     }
@@ -123,7 +123,7 @@ void ShowWebBrowser(const QString& page, Environment& environment, QWidget* pare
     if (window) {
         window->exec();
     } else {
-        OpenElsewhere(QUrl::fromLocalFile(page), environment.talk);
+        OpenElsewhere(QUrl::fromLocalFile(site.page), environment.talk);
     }
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/viewer/siteview.h"
 #include "base/environment.h"
 
 class QWidget;
@@ -9,9 +10,8 @@ class QWidget;
 namespace stemwright
 {
 
-/// Shows a published site until the window is closed. `page` is the full path of its index.html. Nothing but the files
-/// of its folder is shown or loaded: whatever leads elsewhere is opened by the system's browser. Where the viewer is
-/// not installed, the system's browser shows the site itself.
-void ShowWebBrowser(const QString& page, Environment& environment, QWidget* parent);
+/// Shows a site until the window is closed. Nothing but its files is shown or loaded: whatever leads elsewhere is
+/// opened by the system's browser. Where the viewer is not installed, the system's browser shows the site itself.
+void ShowWebBrowser(const LocalSite& site, Environment& environment, QWidget* parent);
 
 } // namespace stemwright

@@ -5,6 +5,7 @@
 #include "base/error.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFileInfo>
 #include <QtCore/QLibrary>
 #include <QtGui/QOpenGLContext>
 
@@ -61,10 +62,15 @@ MakeSiteView Load()
 
 } // namespace
 
-std::unique_ptr<SiteView> OpenSiteView(const QString& page, const SiteViewReports& reports)
+LocalSite LocalSite::published(const QString& index)
+{
+    return {index, QFileInfo(index).absolutePath()};
+}
+
+std::unique_ptr<SiteView> OpenSiteView(const LocalSite& site, const SiteViewReports& reports)
 {
     static const MakeSiteView make = Load();
-    return std::unique_ptr<SiteView>(make(page, reports));
+    return std::unique_ptr<SiteView>(make(site, reports));
 }
 
 } // namespace stemwright

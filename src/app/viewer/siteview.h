@@ -15,6 +15,15 @@ class QWidget;
 namespace stemwright
 {
 
+/// A site on this computer: the page that is opened, and the folder that holds all that belongs to it, both full paths.
+struct LocalSite {
+    QString page;
+    QString folder;
+
+    /// The published site with this index.html, whose files are beside and below it.
+    static LocalSite published(const QString& index);
+};
+
 /// What a view has to say while it lives.
 struct SiteViewReports {
     /// Another page has come, or another title.
@@ -30,7 +39,7 @@ struct SiteViewReports {
     std::function<void()> failed;
 };
 
-/// A browser that shows the files of one folder and nothing else.
+/// A browser that shows the files of one site and nothing else.
 class SiteView
 {
 public:
@@ -49,10 +58,10 @@ public:
     virtual double zoom() const = 0;
 };
 
-/// The library's one exported function, "stemwrightSiteView": opens the page of this path, whose folder is the site.
-using MakeSiteView = SiteView* (*)(const QString& page, const SiteViewReports& reports);
+/// The library's one exported function, "stemwrightSiteView".
+using MakeSiteView = SiteView* (*)(const LocalSite& site, const SiteViewReports& reports);
 
-/// Loads the library and opens a page. Throws Error when the library is missing.
-std::unique_ptr<SiteView> OpenSiteView(const QString& page, const SiteViewReports& reports);
+/// Loads the library and opens a site. Throws Error when the library is missing.
+std::unique_ptr<SiteView> OpenSiteView(const LocalSite& site, const SiteViewReports& reports);
 
 } // namespace stemwright

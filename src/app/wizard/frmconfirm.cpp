@@ -51,7 +51,8 @@ public:
         QPushButton* browser = MakeButton("cmdBrowser", QStringLiteral("&View My Web Pages"));
         QPushButton* ok = MakeButton("cmdOK", QStringLiteral("&OK"));
         browser->setDefault(true);
-        connect(browser, &QPushButton::clicked, this, [this, index] { ShowWebBrowser(index, m_environment, this); });
+        connect(browser, &QPushButton::clicked, this,
+                [this, index] { ShowWebBrowser(LocalSite::published(index), m_environment, this); });
         connect(ok, &QPushButton::clicked, this, &frmConfirm::accept);
         QHBoxLayout* buttons = MakeRow({browser, ok});
         buttons->insertStretch(0);

@@ -172,7 +172,20 @@ private:
         } else if (page(m_current).settle()) {
             reached = number;
         }
-        showPage(reached);
+        if (reached != m_current) {
+            showPage(reached);
+        } else {
+            stay();
+        }
+    }
+
+    /// Shows the page as it was left: whoever typed what was refused goes on typing there.
+    void stay()
+    {
+        page(m_current).refresh();
+        const QSignalBlocker quiet(lstPages);
+        lstPages->setCurrentRow(m_current);
+        setButtons();
     }
 
     void save()
@@ -180,8 +193,7 @@ private:
         if (page(m_current).settle()) {
             m_editing.save();
         }
-        page(m_current).refresh();
-        setButtons();
+        stay();
     }
 
     void finish()
@@ -194,7 +206,9 @@ private:
         }
         const std::optional<QString> index = BuildWebPages(m_context.file, m_editing, m_context.environment);
         if (!index) {
-            showPage(m_current);
+            stay();
+            // The last message belonged to a window that has gone with it.
+            activateWindow();
             return;
         }
         if (findChild<QCheckBox*>(QStringLiteral("chkSaveDefault"))->isChecked()) {

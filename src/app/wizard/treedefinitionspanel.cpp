@@ -31,6 +31,7 @@ QComboBox* MakeList(const char* name)
 {
     auto* list = new QComboBox;
     list->setObjectName(QLatin1StringView(name));
+    LetWheelPass(*list);
     return list;
 }
 
@@ -134,6 +135,8 @@ void TreeDefinitionsPanel::fillGrid()
                                              definition.headName.simplified()),
                            new QStandardItem(definition.display)});
     }
+    // By itself the grid would see to that when it is shown next.
+    dtgTrees->resizeColumnToContents(1);
     dtgTrees->setCurrentIndex(m_model.index(std::clamp(current, 0, m_model.rowCount() - 1), 0));
 }
 
@@ -181,6 +184,9 @@ void TreeDefinitionsPanel::remove()
 
 void TreeDefinitionsPanel::chooseHead()
 {
+    if (!m_trees.mayChooseHead()) {
+        return;
+    }
     if (const auto person = m_picker()) {
         if (!m_trees.edited()) {
             edit();

@@ -42,6 +42,7 @@ private:
     {
         const ApplicationFolder& application = context().environment.application;
         cboPageStyle->setObjectName(QStringLiteral("cboPageStyle"));
+        LetWheelPass(*cboPageStyle);
         cboPageStyle->addItems(BackgroundStyles(application));
         auto* caption = new QLabel(QStringLiteral("Bac&kground style:"));
         caption->setBuddy(cboPageStyle);
@@ -55,7 +56,8 @@ private:
         });
         connect(sample, &QPushButton::clicked, this, [this, &application] {
             if (const auto page = StyleSample(cboPageStyle->currentIndex(), application)) {
-                ShowWebBrowser(*page, context().environment, this);
+                // A sample takes its style and pictures from where publishing takes them.
+                ShowWebBrowser({*page, application.path()}, context().environment, this);
             }
         });
         onRefresh([this, sample, &application] {

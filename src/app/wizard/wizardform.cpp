@@ -8,7 +8,6 @@
 #include "store/engine/engineerror.h"
 #include "web/setup/setupmessages.h"
 
-#include <QtCore/QEvent>
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QHBoxLayout>
@@ -64,16 +63,6 @@ QWidget* WizardForm::firstControl() const
         }
     }
     return nullptr;
-}
-
-bool WizardForm::eventFilter(QObject* watched, QEvent* event)
-{
-    const auto* control = qobject_cast<QWidget*>(watched);
-    if (event->type() == QEvent::Wheel && control != nullptr && !control->hasFocus()) {
-        event->ignore();
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 bool WizardForm::settle()
@@ -167,10 +156,10 @@ QSpinBox* WizardForm::number(const char* column)
     auto* box = new QSpinBox;
     box->setObjectName(ControlName("spn", column));
     box->setRange(definition.lowest, definition.highest);
-    box->setFocusPolicy(Qt::StrongFocus);
-    box->installEventFilter(this);
+    LetWheelPass(*box);
     connect(box, &QSpinBox::valueChanged, this, [this, column](int value) {
-        if (!m_showing) {
+        // Return in the box tells of the same number again.
+        if (!m_showing && QString::number(value) != stored(column)) {
             change([this, column, value] { m_context.editing.set(QLatin1StringView(column), QString::number(value)); });
         }
     });

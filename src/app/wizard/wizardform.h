@@ -50,9 +50,6 @@ public:
     /// False, after the user was told, while a text stands here that was refused.
     bool settle();
 
-    /// Leaves a number alone while the wheel only passes over it on its way down the page.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 protected:
     const WizardContext& context() const { return m_context; }
 

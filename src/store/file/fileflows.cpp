@@ -37,11 +37,12 @@ void Remember(const FamilyFile& file, Settings& settings)
                       recent.first(std::min(recent.size(), mostRecentFiles)).join(u'\n'));
 }
 
-/// Makes the sites of a copied sample family go where its user can write.
-void MovePagesOfSetups(const QString& familyFile, const QString& pagesFolder)
+/// Makes the sites of the sample family go where its user keeps his pages. The file is shipped with a folder that is
+/// nobody's (samples/setups.commands); what the user has chosen since stays.
+void PlaceSitesOfSample(Connection& connection, const QString& pagesFolder)
 {
-    Connection connection(familyFile, OpenMode::ReadWrite);
-    Statement update = connection.prepare(QStringLiteral("UPDATE WebSiteInfo SET WebPageFolder = ?1 || SetupName"));
+    Statement update = connection.prepare(QStringLiteral("UPDATE WebSiteInfo SET WebPageFolder = ?1 || SetupName"
+                                                         " WHERE WebPageFolder = '/fampages/' || SetupName"));
     update.bind(1, pagesFolder + u'/').run();
 }
 
@@ -57,7 +58,6 @@ QString WritableSampleFile(const ApplicationFolder& application)
         CreateFolderPath(ApplicationFolder::userFolder());
         UnfinishedFile unfinished(own);
         WriteWholeFile(unfinished.path(), ReadWholeFile(shipped));
-        MovePagesOfSetups(unfinished.path(), application.pagesFolder());
         unfinished.putInPlace();
     }
     return own;
@@ -103,7 +103,9 @@ bool OpenTestDB(FamilyFile& file, Environment& environment)
         if (!isOpen && !OpenFamilyFile(opened, sample, environment)) {
             return false;
         }
-        const QString backup = BackupFamilyFile(isOpen ? file.connection() : opened.connection());
+        Connection& connection = isOpen ? file.connection() : opened.connection();
+        PlaceSitesOfSample(connection, environment.application.pagesFolder());
+        const QString backup = BackupFamilyFile(connection);
         environment.talk.tell(storemessages::OpeningTestFile(sample, backup));
         if (!isOpen) {
             file = std::move(opened);

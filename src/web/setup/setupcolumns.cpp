@@ -25,9 +25,9 @@ std::vector<SetupColumn> MakeSetupColumns()
     using enum SettingKind;
     using enum WizardPage;
     return {
-        {QStringLiteral("SiteTitle"), Text, FirstPage},
+        {QStringLiteral("SiteTitle"), Text, FirstPage, 0, 0, QStringLiteral("The site title")},
         {QStringLiteral("TitleStory"), Memo, FirstPage},
-        {QStringLiteral("HomePageName"), Text, Step1},
+        {QStringLiteral("HomePageName"), Text, Step1, 0, 0, QStringLiteral("The homepage filename")},
         {QStringLiteral("Standalone"), YesNo, Step1},
         {QStringLiteral("PersPages"), Switch, General},
         {QStringLiteral("PageStyle"), Number, DisplayOptions, 0, largestRunSetting},
@@ -37,8 +37,8 @@ std::vector<SetupColumn> MakeSetupColumns()
         {QStringLiteral("MaxTotalGens"), Number, General, 1, largestRunSetting},
         {QStringLiteral("MaxPrivacyAge"), Number, General, 0, largestRunSetting},
         {QStringLiteral("HideLiving"), Switch, General},
-        {QStringLiteral("WebPageFolder"), Folder, Step2},
-        {QStringLiteral("EmblemFiletype"), FileType, FirstPage},
+        {QStringLiteral("WebPageFolder"), Folder, Step2, 0, 0, QStringLiteral("The output folder")},
+        {QStringLiteral("EmblemFiletype"), FileType, FirstPage, 0, 0, QStringLiteral("The emblem's file type")},
         {QStringLiteral("EmblemPicture"), Image, FirstPage},
         {QStringLiteral("Pictures4ThisTreeOnly"), YesNo, General},
     };
@@ -73,9 +73,18 @@ bool IsFullWindowsPath(const QString& path)
 QString ParseFolder(const SetupColumn& column, const QString& typed)
 {
     if (typed.trimmed().isEmpty()) {
-        throw Error(QStringLiteral("%1 must name the folder for the pages; it cannot be empty.").arg(column.name));
+        throw Error(QStringLiteral("%1 cannot be empty.").arg(column.inWords));
     }
-    return ParseTypedText(column.name, IsFullWindowsPath(typed) ? typed : QDir::cleanPath(QDir(typed).absolutePath()));
+    if (IsFullWindowsPath(typed)) {
+        return ParseTypedText(column.inWords, typed);
+    }
+    const bool inHome = typed == QStringLiteral("~") || typed.startsWith(QStringLiteral("~/"));
+    const QString path = inHome ? QDir::homePath() + typed.mid(1) : typed;
+    if (QDir::isRelativePath(path)) {
+        throw Error(QStringLiteral("%1 must be named with its full path, such as %2, not \"%3\".")
+                        .arg(column.inWords, QDir::toNativeSeparators(QDir::home().filePath(path)), typed));
+    }
+    return ParseTypedText(column.inWords, QDir::cleanPath(path));
 }
 
 QString ParseFileType(const SetupColumn& column, const QString& typed)
@@ -83,9 +92,9 @@ QString ParseFileType(const SetupColumn& column, const QString& typed)
     const auto isPlain = [](QChar character) { return character.isLetterOrNumber() && character < QChar(0x80); };
     if (!std::all_of(typed.begin(), typed.end(), isPlain)) {
         throw Error(QStringLiteral("%1 must be a file name extension such as gif, without the dot, not \"%2\".")
-                        .arg(column.name, typed));
+                        .arg(column.inWords, typed));
     }
-    return ParseTypedText(column.name, typed);
+    return ParseTypedText(column.inWords, typed);
 }
 
 } // namespace
@@ -125,7 +134,7 @@ std::variant<int, QString> ParseSetting(const SetupColumn& column, const QString
     case SettingKind::FileType:
         return ParseFileType(column, typed);
     case SettingKind::Text:
-        return ParseTypedText(column.name, typed);
+        return ParseTypedText(column.inWords, typed);
     case SettingKind::Memo:
     case SettingKind::Image:
         break;

@@ -39,6 +39,8 @@ struct SetupColumn {
     /// The limits of a number.
     int lowest = 0;
     int highest = 0;
+    /// Of a typed text: what the wizard calls it, for the beginning of a sentence.
+    QString inWords;
 };
 
 /// In the order of the table WebSiteInfo, without the setup's name.
@@ -48,7 +50,8 @@ const std::vector<SetupColumn>& SetupColumns();
 const SetupColumn& SetupColumnNamed(const QString& name);
 
 /// What a typed text means for a column: a number, or the text to store (an image's is its path). Yes/no values are 0,
-/// 1, -1, yes, no, true or false; colours are numbers, 0xRRGGBB or #RRGGBB; a folder is made a full path. Throws Error
+/// 1, -1, yes, no, true or false; colours are numbers, 0xRRGGBB or #RRGGBB; a folder has a full path, which may begin
+/// with ~ for the home folder. Throws Error
 /// for what the column cannot hold.
 std::variant<int, QString> ParseSetting(const SetupColumn& column, const QString& typed);
 

@@ -96,10 +96,18 @@ void TreeEditing::setIcon(int icon)
     taken().icon = icon;
 }
 
+bool TreeEditing::mayChooseHead() const
+{
+    const bool anybody = HasIndividuals(m_connection);
+    if (!anybody) {
+        m_environment.talk.tell(setupmessages::NoNameIndex());
+    }
+    return anybody;
+}
+
 bool TreeEditing::setHead(int individualId)
 {
-    if (!HasIndividuals(m_connection)) {
-        m_environment.talk.tell(setupmessages::NoNameIndex());
+    if (!mayChooseHead()) {
         return false;
     }
     taken().headName = StoredFullName(m_connection, individualId);

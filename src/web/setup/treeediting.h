@@ -42,6 +42,8 @@ public:
     /// the application's folder holds, counted from 1.
     void setDisplay(const QString& display);
     void setIcon(int icon);
+    /// Whether there is anybody who could be a head; if not, the user is told.
+    bool mayChooseHead() const;
     /// Makes an individual the head. False, after the user was told, while the family file holds no individuals.
     bool setHead(int individualId);
 

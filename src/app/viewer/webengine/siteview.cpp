@@ -3,7 +3,6 @@
 #include "app/viewer/siteview.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 #include <QtGui/QAction>
 #include <QtWebEngineCore/QWebEngineNewWindowRequest>
 #include <QtWebEngineCore/QWebEnginePage>
@@ -22,7 +21,7 @@ namespace
 class SiteFolder
 {
 public:
-    explicit SiteFolder(const QString& page) : m_folder(QFileInfo(page).absolutePath() + u'/') {}
+    explicit SiteFolder(const QString& path) : m_folder(QDir::cleanPath(path) + u'/') {}
 
     bool holds(const QUrl& address) const
     {
@@ -131,8 +130,8 @@ void Restrict(QWebEngineSettings& settings)
 class WebSiteView : public SiteView
 {
 public:
-    WebSiteView(const QString& page, const SiteViewReports& reports)
-        : m_site(page), m_guard(m_site), m_page(m_site, m_profile, reports.left)
+    WebSiteView(const LocalSite& site, const SiteViewReports& reports)
+        : m_site(site.folder), m_guard(m_site), m_page(m_site, m_profile, reports.left)
     {
         Restrict(*m_profile.settings());
         m_profile.setUrlRequestInterceptor(&m_guard);
@@ -152,7 +151,7 @@ public:
         QObject::connect(m_page.action(QWebEnginePage::Back), &QAction::enabledChanged, &m_view, reports.backChanged);
         QObject::connect(m_page.action(QWebEnginePage::Forward), &QAction::enabledChanged, &m_view,
                          reports.forwardChanged);
-        m_page.load(QUrl::fromLocalFile(page));
+        m_page.load(QUrl::fromLocalFile(site.page));
     }
 
     QWidget& widget() override { return m_view; }
@@ -181,8 +180,8 @@ private:
 } // namespace stemwright
 
 /// The library's one entry point.
-extern "C" Q_DECL_EXPORT stemwright::SiteView* stemwrightSiteView(const QString& page,
+extern "C" Q_DECL_EXPORT stemwright::SiteView* stemwrightSiteView(const stemwright::LocalSite& site,
                                                                   const stemwright::SiteViewReports& reports)
 {
-    return new stemwright::WebSiteView(page, reports);
+    return new stemwright::WebSiteView(site, reports);
 }
