@@ -95,7 +95,7 @@ private:
     {
         m_tree = FamilyTree::load(m_connection);
         for (const TreeDefinition& tree : m_setup->trees) {
-            if (!m_tree.findIndividual(tree.headId.value_or(0))) {
+            if (!tree.headId || !m_tree.findIndividual(*tree.headId)) {
                 throw Error(webmessages::NoSuchTreeHead(tree.headName, tree.headId.value_or(0)));
             }
         }
@@ -119,7 +119,7 @@ private:
         const RunSettings settings = RunSettings::of(*m_setup, m_environment.clock);
         m_texts = SiteTexts::load(m_connection, m_tree, m_setup->items);
         m_privacy.emplace(m_tree, *m_texts, settings.protectedPersons, settings.maxPrivacyAge, settings.currentYear);
-        m_names.emplace(*m_texts, m_tree.individuals());
+        m_names.emplace(*m_texts, *m_privacy, m_tree.individuals());
         m_run.emplace(SiteRun{
             *m_setup, settings, m_tree, *m_texts, *m_privacy, *m_names, m_environment.application, m_folder, {}, {}});
     }
@@ -171,7 +171,7 @@ private:
             limits.generationsOnPage = m_run->settings.generationsOnPage;
         }
         const auto walk = display == TreeDisplay::AncestorTree ? TreeWalk::ofAncestors : TreeWalk::ofDescendants;
-        m_run->trees.push_back(MakePublishedTree(definition, walk(m_tree, *m_privacy, head, limits)));
+        m_run->trees.push_back(MakePublishedTree(*m_run, definition, walk(m_tree, *m_privacy, head, limits)));
         tellMissingFamilies(m_run->trees.back().walk);
     }
 

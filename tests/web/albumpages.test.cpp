@@ -154,6 +154,30 @@ TEST(AlbumPages, NothingNamesHiddenPersons)
     EXPECT_FALSE(site.has("PicList13.html") || site.has("Thumbs_13_1.html"));
 }
 
+TEST(AlbumPages, TypedNamesBelongToNobody)
+{
+    // GEDCOM files may number individuals from 0; 13 is protected.
+    for (const char* birth : {"1800", "1990"}) {
+        AlbumSite site;
+        site.setup("HideLiving = 1, Pictures4ThisTreeOnly = 0");
+        site.build.person(0, "Zero", "Null", {{"BIRT_Date", birth}});
+        site.picture(1).mark(1, 0, "Vera Vivid").mark(1, 0, "Uncle Bob");
+        ASSERT_TRUE(site.publish());
+        EXPECT_THAT(site.page("PicPage1.html"), AllOf(HasSubstr("Uncle Bob"), Not(HasSubstr("Vera")))) << birth;
+    }
+}
+
+TEST(AlbumPages, NamesOfMarksThatBecameSomebodyElsesAreNotShown)
+{
+    AlbumSite site;
+    site.setup("PersPages = 1, HideLiving = 1, Pictures4ThisTreeOnly = 0");
+    site.picture(1).mark(1, 3, "Vivid, Vera").mark(1, 5, "Aunt Jane");
+    ASSERT_TRUE(site.publish());
+    EXPECT_THAT(site.page("PicPage1.html"),
+                AllOf(Not(HasSubstr("Vera")), HasSubstr("PersPage_3.html\" TARGET=\"frmCenter\">Wood, Mary</A>"),
+                      HasSubstr("Aunt Jane</A>")));
+}
+
 TEST(AlbumPages, GalleriesTurnThePageAfter24Pictures)
 {
     for (const int count : {1, 24, 25, 49}) {

@@ -16,6 +16,7 @@ namespace stemwright::test
 namespace
 {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -114,6 +115,42 @@ TEST(SiteBuild, ProtectedPersonsLosePrivateItemsOnlyWhenTheyAreShown)
     }
     EXPECT_THAT(world.page("PersPage_13.html"), HasSubstr("<H3>Vera Vivid&nbsp;"));
     EXPECT_THAT(world.page("PersPage_10.html"), HasSubstr("<TD> 2 Feb 1852</TD>"));
+}
+
+TEST(SiteBuild, PrivatePartsOfNamesAreLeftOutForProtectedPersons)
+{
+    SiteWorld world;
+    AddHarts(world);
+    world.build.run("UPDATE SelectedItems SET ItemValue = replace(ItemValue, char(9) || char(9) || 'Indi',"
+                    " char(9) || 'P' || char(9) || 'Indi') WHERE ItemValue LIKE 'Given%'");
+    world.build.family(9, 6, 13, {}).run("INSERT INTO AlbumTOC (PicId, Picture, PicType) VALUES (1, 'x', 'jpg')");
+    world.build.run("INSERT INTO Pic2Person (PicId, PersId, Name) VALUES (1, 13, 'Vivid, Vera'), (1, 4, 'Jack')");
+    world.setup("PersPages = 1").head(12, "Abaj", "CollapsiTree").head(11, "Katz, Lucy", "Descendant Tree");
+    world.head(13, "Vivid, Vera", "Ancestor Tree").head(13, "Vivid, Vera");
+    ASSERT_TRUE(world.publish());
+    for (const auto& [name, bytes] : world.files()) {
+        EXPECT_EQ(Count(bytes, "Vera"), 0) << name;
+    }
+    EXPECT_THAT(world.column("SELECT * FROM Indi2Page WHERE Name || Name4Index LIKE '%Vera%'"), IsEmpty());
+    EXPECT_THAT(world.page("PersPage_13.html"), HasSubstr("<H3>Vivid&nbsp;"));
+    EXPECT_THAT(world.page("PersPage_1.html"), HasSubstr("<H3>Sir Thomas Hart&nbsp;"));
+    EXPECT_THAT(world.page("PicPage1.html"), AllOf(HasSubstr(">Vivid</A>"), HasSubstr(">Jack</A>")));
+    // With nothing else to show, there is nothing to tell.
+    world.build.run("UPDATE Indi SET Surname = NULL WHERE Id = 13");
+    world.talk.expect("There are already some files");
+    ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
+    EXPECT_THAT(world.page("PersPage_13.html"), HasSubstr("<H3>&lt;Private&gt;&nbsp;"));
+}
+
+TEST(SiteBuild, IconsThatDoNotExistAreReplaced)
+{
+    SiteWorld world;
+    AddHarts(world);
+    world.build.run("UPDATE TreeHeads SET IconNo = 30");
+    ASSERT_TRUE(world.publish());
+    for (const char* name : {"Outline_1_1.html", "TreeList.html", "NameIndex.html"}) {
+        EXPECT_THAT(world.page(name), HasSubstr("graphics/icons_tree_00.gif")) << name;
+    }
 }
 
 TEST(SiteBuild, WorkTablesTellWhoIsWhere)

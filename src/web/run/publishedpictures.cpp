@@ -36,6 +36,11 @@ bool IsPublished(const std::vector<TreePosition>& persons, const SiteRun& run)
 
 } // namespace
 
+std::optional<TreePosition> MarkedIndividual(const FamilyTree& tree, int personId)
+{
+    return personId == 0 ? std::nullopt : tree.findIndividual(personId);
+}
+
 AlbumPictures AlbumPictures::load(Connection& connection, const FamilyTree& tree)
 {
     AlbumPictures album;
@@ -49,11 +54,10 @@ AlbumPictures AlbumPictures::load(Connection& connection, const FamilyTree& tree
         album.pictures.push_back({pictures.integer(0), std::string(pictures.utf8(1)), std::string(pictures.utf8(2)),
                                   std::string(pictures.utf8(3))});
     }
-    Statement marks =
-        connection.prepare(QStringLiteral("SELECT PicId, PersId FROM Pic2Person WHERE PersId > 0 ORDER BY rowid"));
+    Statement marks = connection.prepare(QStringLiteral("SELECT PicId, PersId FROM Pic2Person ORDER BY rowid"));
     while (marks.step()) {
         const auto place = places.find(marks.integer(0));
-        const std::optional<TreePosition> person = tree.findIndividual(marks.integer(1));
+        const std::optional<TreePosition> person = MarkedIndividual(tree, marks.integer(1));
         if (place != places.end() && person) {
             album.appearances.push_back({place->second, *person});
         }

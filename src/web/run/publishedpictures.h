@@ -16,6 +16,10 @@ namespace stemwright
 
 struct SiteRun;
 
+/// The individual to whom a mark belongs. No value for a name that was typed, whose number is 0 even if the tree has an
+/// individual 0, and for one whose individual is no longer in the tree.
+std::optional<TreePosition> MarkedIndividual(const FamilyTree& tree, int personId);
+
 /// A picture as lists show it; texts are UTF-8.
 struct PublishedPicture {
     int id = 0;

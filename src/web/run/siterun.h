@@ -33,10 +33,12 @@ struct RunSettings {
 struct PublishedTree {
     TreeDefinition definition;
     TreeDisplay display = TreeDisplay::Outline;
-    /// The head's name as the setup has it, UTF-8.
+    /// The head's name as the setup has it, as far as it may be told; UTF-8.
     std::string headName;
     /// "Outline_3_": what stands before the owner's number in a page's name.
     std::string pageNameStart;
+    /// "graphics/icons_tree_09.gif"
+    std::string icon;
     /// HTML: what follows the address in an icon link to an entry.
     std::string linkEnd;
     TreeWalk walk;

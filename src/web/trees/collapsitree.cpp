@@ -71,7 +71,7 @@ private:
         std::string headName;
         AppendScriptText(headName, EntryName(m_run, entryAt(0)), ScriptQuotes::Escaped);
         page().append(FillTemplate(ReadTemplate(m_run.application.file(QStringLiteral("html/ctreetop.html"))),
-                                   {{"$TreeHeadName", headName}, {"$TreeIconFile", TreeIcon(m_tree.definition)}}));
+                                   {{"$TreeHeadName", headName}, {"$TreeIconFile", m_tree.icon}}));
     }
 
     /// Ends the blocks of individuals whose families are finished, down to the one that the next entry belongs to.
