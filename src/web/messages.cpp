@@ -54,6 +54,11 @@ QString LoadingIndividuals()
     return QStringLiteral("Loading the list of individuals...");
 }
 
+QString BuildingTheTrees()
+{
+    return QStringLiteral("Building the family trees...");
+}
+
 QString EntryOf(const QString& display, const QString& headName)
 {
     return QStringLiteral("%1 for: %2. Entry of:").arg(display, headName);
@@ -111,6 +116,13 @@ Message OutputFolderHoldsFiles(const QString& folder)
 QString NoOutputFolder()
 {
     return QStringLiteral("The setup names no output folder. Please choose the folder for the web pages.");
+}
+
+QString IsNotAFullPath(const QString& folder)
+{
+    return QStringLiteral("The output folder %1 is not the full path of a folder on this computer. Please choose a new"
+                          " folder for the web pages.")
+        .arg(folder);
 }
 
 QString IsNotAFolder(const QString& path)
@@ -255,11 +267,13 @@ std::array<QString, 3> WebPagesCreatedTexts(const QString& folder)
             QStringLiteral("and double-click index.html.")};
 }
 
-Message BuildStopped()
+Message BuildStopped(StoppedSite site)
 {
     return {BuildingWebPages(),
-            QStringLiteral("Building your web pages was stopped. What is in the output folder is only a part of them: "
-                           "please build them again before you use them."),
+            QStringLiteral("Building your web pages was stopped. ") +
+                (site == StoppedSite::AsBefore ? QStringLiteral("What is in the output folder stayed as it was.")
+                                               : QStringLiteral("What is in the output folder is only a part of them: "
+                                                                "please build them again before you use them.")),
             Icon::Warning};
 }
 

@@ -192,15 +192,20 @@ TEST(SiteBuild, MessagesOfTheWalk)
 {
     SiteWorld world;
     AddHarts(world);
-    world.build.spouse(1, 99);
+    for (int family = 91; family <= 96; ++family) {
+        world.build.spouse(family < 93 ? 1 : 5, family);
+    }
     world.head(13, "Vivid, Vera").head(12, "Abaj", "Ancestor Tree").head(5, "Hart, Jane", "Unheard of");
-    world.talk.expect("The output folder")
-        .expect("Missing family record")
-        .expect("Family-less Ancestor")
-        .expect("Family-less Ancestor");
+    world.talk.expect("The output folder").expect("Family-less Ancestor").expect("Family-less Ancestor");
+    for (int message = 0; message < 6; ++message) {
+        world.talk.expect("Missing family record");
+    }
     ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
-    EXPECT_THAT(world.talk.shown()[1].text.toStdString(), HasSubstr("# 99\n"));
-    EXPECT_THAT(world.talk.shown()[2].text.toStdString(), HasSubstr("ancestor, Vera Vivid\nhas no families. \n"));
+    EXPECT_THAT(world.talk.shown()[1].text.toStdString(), HasSubstr("ancestor, Vera Vivid\nhas no families. \n"));
+    // Both trees miss the families of 5.
+    EXPECT_THAT(world.talk.shown()[3].text.toStdString(), HasSubstr("# 93\n"));
+    EXPECT_THAT(world.talk.shown()[7].text.toStdString(), HasSubstr("# 91\n"));
+    EXPECT_THAT(world.talk.shown()[8].text.toStdString(), HasSubstr("1 more family record"));
     EXPECT_EQ(Count(world.page("TreeList.html"), "<TR>"), 2);
     EXPECT_EQ(Count(world.page("TreeList.html"), "HREF=\"Outline_4_5.html\""), 1);
 }
@@ -222,6 +227,38 @@ TEST(SiteBuild, StoppedBuildLeavesFolderAndFileAlone)
     EXPECT_THAT(world.column("SELECT * FROM Indi2Page"), IsEmpty());
 }
 
+TEST(SiteBuild, NothingIsDeletedBeforeAllHasBeenAskedAndRead)
+{
+    SiteWorld world;
+    AddHarts(world);
+    QDir().mkpath(world.site());
+    world.write("site/index.html", "old");
+    const auto expectNoBuild = [&world](const QString& title, Button answer, const QString& what) {
+        world.talk.expect("There are already some files").expect(title, answer);
+        EXPECT_FALSE(BuildWebPages(world.file, {"Default", world.site()}, world.environment)) << what;
+        EXPECT_EQ(world.page("index.html"), "old") << what;
+    };
+    for (const char* caption : {"Loading the pictures", "Loading the list", "Copying standard files"}) {
+        world.talk.stopAt(caption);
+        expectNoBuild("Building Web Pages", Button::Ok, caption);
+        EXPECT_TRUE(world.talk.shown().back().text.endsWith("stayed as it was.")) << caption;
+    }
+    world.talk.stopAt({});
+    QDir().mkpath(world.path("application/html"));
+    world.application = ApplicationFolder(world.path("application"));
+    QFile::link(TestData("web/share/BgStyles"), world.path("application/BgStyles"));
+    const QStringList templates = QDir(TestData("web/share/html")).entryList(QDir::Files);
+    for (const QString& missing : templates) {
+        for (const QString& name : templates) {
+            QFile::link(TestData("web/share/html/" + name), world.path("application/html/" + name));
+        }
+        QFile::remove(world.path("application/html/" + missing));
+        expectNoBuild("Building Web Pages", Button::Ok, missing);
+    }
+    world.head(13, "Vivid, Vera");
+    expectNoBuild("Family-less Ancestor", Button::Cancel, "asked");
+}
+
 TEST(SiteBuild, CanBeStoppedOnceTheFolderIsPrepared)
 {
     SiteWorld world;
@@ -230,12 +267,12 @@ TEST(SiteBuild, CanBeStoppedOnceTheFolderIsPrepared)
     ASSERT_TRUE(world.publish());
     const QStringList before = world.column("SELECT * FROM Indi2Page");
     world.build.run("UPDATE Indi SET Surname = 'Changed'");
-    for (const char* caption : {"Copying standard files", "Outline for: Hart, Sir Thomas",
+    for (const char* caption : {"Building the family trees", "Outline for: Hart, Sir Thomas",
                                 "Building index of names and", "Processing picture:", "Writing the list of trees"}) {
         world.talk.stopAt(caption);
         world.talk.expect("There are already some files").expect("Building Web Pages");
         EXPECT_FALSE(BuildWebPages(world.file, {"Default", world.site()}, world.environment)) << caption;
-        EXPECT_TRUE(world.talk.shown().back().text.startsWith("Building your web pages was stopped.")) << caption;
+        EXPECT_TRUE(world.talk.shown().back().text.endsWith("build them again before you use them.")) << caption;
         EXPECT_EQ(world.page("index.html"), "") << "nobody takes it for a finished site";
         EXPECT_EQ(world.column("SELECT * FROM Indi2Page"), before);
         world.write("site/left.html", "rest");
