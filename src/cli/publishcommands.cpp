@@ -9,6 +9,8 @@
 #include "web/setup/setupmanager.h"
 #include "web/sitebuild.h"
 
+#include <QtCore/QFileInfo>
+
 namespace stemwright
 {
 

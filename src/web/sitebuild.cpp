@@ -9,6 +9,7 @@
 #include "web/outputfolder.h"
 #include "web/people/nameindex.h"
 #include "web/pictures/albumpages.h"
+#include "web/run/hiddenfacts.h"
 #include "web/setup/setupchecks.h"
 #include "web/standardfiles.h"
 #include "web/treelist.h"
@@ -124,16 +125,8 @@ private:
         m_texts = SiteTexts::load(m_connection, m_tree, m_setup->items);
         m_privacy.emplace(m_tree, *m_texts, settings.protectedPersons, settings.maxPrivacyAge, settings.currentYear);
         m_names.emplace(*m_texts, *m_privacy, m_tree.individuals());
-        m_run.emplace(SiteRun{*m_setup,
-                              settings,
-                              m_tree,
-                              *m_texts,
-                              *m_privacy,
-                              *m_names,
-                              m_environment.application,
-                              m_folder.path,
-                              {},
-                              {}});
+        m_run.emplace(SiteRun{*m_setup, settings, m_tree, *m_texts, *m_privacy, *m_names, m_environment.application,
+                              m_folder.path});
     }
 
     void walkTrees()
@@ -142,7 +135,11 @@ private:
             addTree(definition);
         }
         tellMissingFamilies();
+        m_run->hiddenNames = HiddenNames(*m_run);
         m_run->pictures = PublishedPictures(std::move(m_album), *m_run);
+        if (const std::vector<TreePosition> persons = WithholdFacts(*m_texts, *m_run); !persons.empty()) {
+            tellFactsLeftOut(persons);
+        }
     }
 
     void copyStandardFiles()
@@ -204,6 +201,17 @@ private:
         const TreePosition family = m_tree.parentFamily(individual);
         return family != nowhere &&
                (!m_tree.hasRecord(family) || m_tree.husband(family) != nowhere || m_tree.wife(family) != nowhere);
+    }
+
+    void tellFactsLeftOut(const std::vector<TreePosition>& persons)
+    {
+        QStringList names;
+        for (const TreePosition person : persons) {
+            names << QStringLiteral("%1 (%2)")
+                         .arg(QString::fromStdString(m_names->displayName(person)))
+                         .arg(m_tree.individualId(person));
+        }
+        m_environment.talk.tell(webmessages::FactsLeftOut(names));
     }
 
     /// Tells of each family once, in whatever trees it is missed.

@@ -154,6 +154,26 @@ TEST(AlbumPages, NothingNamesHiddenPersons)
     EXPECT_FALSE(site.has("PicList13.html") || site.has("Thumbs_13_1.html"));
 }
 
+TEST(AlbumPages, TypedNamesAreSearchedForHiddenPersons)
+{
+    for (const QStringList& row : TestTable("web/hiddennames.txt")) {
+        AlbumSite site;
+        site.setup("HideLiving = 1, Pictures4ThisTreeOnly = 0");
+        const auto living = [&site](int id, const char* given, const char* surname, const char* alias) {
+            site.build.person(id, given, surname, {{"BIRT_Date", "1990"}, {"Alias", alias}});
+        };
+        living(21, "太郎", "山田", nullptr);
+        living(22, "สมชาย", "ใจดี", nullptr);
+        living(23, "Mary", "of England", "Bess");
+        living(24, "Lee", nullptr, nullptr);
+        site.build.person(25, "Henry", "Percy", {{"DEAT_Date", "2001"}}).family(21, 25, 23, {});
+        site.picture(1).mark(1, 0, row[0]).mark(1, 5, "Jane");
+        ASSERT_TRUE(site.publish());
+        const qsizetype names = QString::fromStdString(site.page("PicPage1.html")).count("33.3%");
+        EXPECT_EQ(names, row[1] == "yes" ? 1 : 2) << row[0];
+    }
+}
+
 TEST(AlbumPages, TypedNamesBelongToNobody)
 {
     // GEDCOM files may number individuals from 0; 13 is protected.

@@ -102,6 +102,38 @@ TEST(SiteBuild, DescendantsOfHiddenPersonsAreNotNamedByRelatives)
     }
 }
 
+TEST(SiteBuild, FactsThatNameHiddenPersonsAreLeftOut)
+{
+    for (const bool hides : {true, false}) {
+        SiteWorld world;
+        AddHarts(world);
+        world.item("Alias|Alias|n|Yes|||||Indi").item("To father|_FREL|r|Yes|||||Fam2Child");
+        world.setup(hides ? "PersPages = 1, HideLiving = 1" : "PersPages = 1");
+        world.build.run("UPDATE Indi SET BIRT_Place = 'told by Vera Vivid' WHERE Id = 4;"
+                        "UPDATE Indi SET DEAT_Date = '1870 (VIVID, Vera)' WHERE Id = 1;"
+                        "UPDATE Indi SET Alias = 'Vera Vivid''s Nan' WHERE Id = 2;"
+                        "UPDATE Fam SET Marriage_Place = 'at Vera Vivid''s' WHERE Id = 6;"
+                        "UPDATE Fam2Child SET _FREL = 'says Vera Vivid' WHERE ChildId = 8");
+        world.head(12, "Abaj", "CollapsiTree").head(11, "Katz", "Descendant Tree").head(11, "Katz", "Ancestor Tree");
+        world.talk.expect("The output folder");
+        if (hides) {
+            world.talk.expect("Hidden persons in facts");
+        }
+        ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
+        for (const auto& [name, bytes] : world.files()) {
+            const QString text = QString::fromStdString(bytes);
+            EXPECT_FALSE(hides && text.contains("vera", Qt::CaseInsensitive)) << name;
+        }
+        EXPECT_EQ(Count(world.page("PersPage_4.html"), "told by"), hides ? 0 : 1);
+        EXPECT_EQ(Count(world.page("PersPage_4.html"), "abt 1825") + Count(world.page("PersPage_4.html"), "Abt 1825"),
+                  1);
+        if (hides) {
+            EXPECT_THAT(world.talk.shown()[1].text.toStdString(),
+                        AllOf(HasSubstr("Facts of 4 of"), HasSubstr("Persons: Sir Thomas Hart (1), Ann Reed (2), ")));
+        }
+    }
+}
+
 TEST(SiteBuild, ProtectedPersonsLosePrivateItemsOnlyWhenTheyAreShown)
 {
     SiteWorld world;

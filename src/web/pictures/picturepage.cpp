@@ -75,7 +75,7 @@ bool PicturePageWriter::write(const PublishedPicture& picture, const PictureFile
             persons.push_back(*person);
         }
     }
-    const bool keepsDescription = !m_run.pictures.hiddenNames().isAnyNamedIn(files.description, m_run, persons);
+    const bool keepsDescription = !m_run.hiddenNames.isAnyNamedIn(files.description, m_run, persons);
     const std::string title = Html(picture.title.empty() ? "<No title>" : std::string_view(picture.title));
     const bool isRectangle = files.pointer == PointerTool::Rectangle;
 
@@ -114,7 +114,7 @@ std::vector<PicturePageWriter::ShownMark> PicturePageWriter::shownMarks(const st
 std::string PicturePageWriter::nameOf(const PersonMark& mark, std::optional<TreePosition> person) const
 {
     const std::string stored = mark.name.toStdString();
-    if (person && (m_run.names.isWithheldFrom(*person) || m_run.pictures.hiddenNames().isAnyNamedIn(stored))) {
+    if (person && (m_run.names.isWithheldFrom(*person) || m_run.hiddenNames.isAnyNamedIn(stored))) {
         return m_run.names.indexName(*person);
     }
     return TidyName(stored);
@@ -127,7 +127,7 @@ bool PicturePageWriter::isShown(const PersonMark& mark) const
     if (const std::optional<TreePosition> person = MarkedIndividual(m_run.tree, mark.personId)) {
         return m_run.mayBeNamed(*person);
     }
-    return !m_run.pictures.hiddenNames().isAnyNamedIn(mark.name.toStdString());
+    return !m_run.hiddenNames.isAnyNamedIn(mark.name.toStdString());
 }
 
 void PicturePageWriter::writeNamesLeft(const std::vector<ShownMark>& marks, PointerTool pointer)

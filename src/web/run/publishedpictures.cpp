@@ -72,7 +72,6 @@ PublishedPictures::PublishedPictures(AlbumPictures album, const SiteRun& run)
     if (album.pictures.empty()) {
         return;
     }
-    m_hiddenNames = HiddenNames(run);
     std::vector<TreeLinks::Link> links;
     std::span<const Appearance> rest(album.appearances);
     for (std::uint32_t number = 0; number < album.pictures.size(); ++number) {
@@ -92,7 +91,7 @@ PublishedPictures::PublishedPictures(AlbumPictures album, const SiteRun& run)
         }
         PublishedPicture& picture = m_pictures.emplace_back(std::move(album.pictures[number]));
         for (std::string* text : {&picture.title, &picture.place}) {
-            if (m_hiddenNames.isAnyNamedIn(*text, run, persons)) {
+            if (run.hiddenNames.isAnyNamedIn(*text, run, persons)) {
                 text->clear();
                 picture.lostText = true;
             }

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "index/familytree.h"
-#include "web/run/hiddennames.h"
 
 #include <span>
 #include <string>
@@ -69,13 +68,9 @@ public:
         return m_pictures.empty() ? std::span<const std::uint32_t>() : m_ofPersons.of(person);
     }
 
-    /// For further texts of the pictures.
-    const HiddenNames& hiddenNames() const { return m_hiddenNames; }
-
 private:
     std::vector<PublishedPicture> m_pictures;
     TreeLinks m_ofPersons;
-    HiddenNames m_hiddenNames;
 };
 
 } // namespace stemwright

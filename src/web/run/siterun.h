@@ -4,6 +4,7 @@
 
 #include "base/environment.h"
 #include "index/familytree.h"
+#include "web/run/hiddennames.h"
 #include "web/run/pageassignment.h"
 #include "web/run/personnames.h"
 #include "web/run/privacy.h"
@@ -54,9 +55,10 @@ struct SiteRun {
     const ApplicationFolder& application;
     /// The output folder's full path.
     QString folder;
-    std::vector<PublishedTree> trees;
+    std::vector<PublishedTree> trees{};
     /// Known once the trees are.
-    PublishedPictures pictures;
+    HiddenNames hiddenNames{};
+    PublishedPictures pictures{};
 
     QString file(std::string_view name) const
     {
