@@ -95,7 +95,7 @@ TEST(AlbumPages, PagesOfAnAlbumAreAsTheyWereReviewed)
     EXPECT_THAT(
         site.page("NameIndex.html"),
         HasSubstr("<A HREF=\"PicPage1.html\"><IMG SRC=\"graphics/photo.gif\" ALT=\"Picture with This Person\""));
-    EXPECT_THAT(site.page("main.html"), HasSubstr(" or at the <A HREF=\"ListOfPics.html\">list of pictures."));
+    EXPECT_THAT(site.page("main.html"), HasSubstr(" or at the <A HREF=\"ListOfPics.html\">list of pictures.</A>"));
     EXPECT_THAT(site.page("topright.html"), HasSubstr("<A HREF=\"ListOfPics.html\"><IMG SRC=\"graphics/btn_pic"));
 }
 

@@ -56,7 +56,7 @@ private:
 
     void withhold(std::optional<std::string_view> text)
     {
-        if (text && m_run.hiddenNames.isFullyNamedIn(*text)) {
+        if (text && m_run.hiddenNames.isAnyNamedInFact(*text)) {
             m_texts.withhold(*text);
             m_found = true;
         }

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <utility>
 
 namespace stemwright
 {
@@ -20,91 +19,9 @@ constexpr std::size_t furthestApart = 4;
 /// One letter is an initial, or one of the few surnames that stand in many other words.
 constexpr qsizetype shortestTellingName = 2;
 
-// The hash is Fowler-Noll-Vo 1a, since it goes on from a part of a text to the whole.
-constexpr quint64 hashStart = 0xcbf29ce484222325;
-
-constexpr quint64 HashedFurther(quint64 hash, quint64 unit)
+quint64 PairOf(quint64 given, quint64 surname)
 {
-    constexpr quint64 prime = 0x100000001b3;
-    return (hash ^ unit) * prime;
-}
-
-quint64 HashOf(const QString& text)
-{
-    quint64 hash = hashStart;
-    for (const QChar character : text) {
-        hash = HashedFurther(hash, character.unicode());
-    }
-    return hash;
-}
-
-/// The same in both orders.
-quint64 PairOf(quint64 first, quint64 second)
-{
-    return HashedFurther(std::min(first, second), std::max(first, second));
-}
-
-bool IsAscii(std::string_view text)
-{
-    return std::all_of(text.begin(), text.end(),
-                       [](char character) { return (static_cast<unsigned char>(character) & 0x80U) == 0; });
-}
-
-QStringList Words(std::string_view utf8)
-{
-    const QString text =
-        QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).normalized(QString::NormalizationForm_KC);
-    QStringList words;
-    QString word;
-    for (const QChar character : text + u' ') {
-        if (character.isLetterOrNumber() || character.isMark() || character.isSurrogate()) {
-            word += character;
-        } else if (!word.isEmpty()) {
-            words << word.toCaseFolded();
-            word.clear();
-        }
-    }
-    return words;
-}
-
-/// Appends the hashes of the words of a text that has ASCII characters only: what Words() finds, without its detours.
-void AppendAsciiWords(std::vector<quint64>& words, std::string_view text)
-{
-    quint64 hash = hashStart;
-    const auto end = [&] {
-        if (hash != hashStart) {
-            words.push_back(std::exchange(hash, hashStart));
-        }
-    };
-    for (const char character : text) {
-        const bool upper = character >= 'A' && character <= 'Z';
-        if (upper || (character >= 'a' && character <= 'z') || (character >= '0' && character <= '9')) {
-            hash = HashedFurther(hash, static_cast<quint64>(upper ? character - 'A' + 'a' : character));
-        } else {
-            end();
-        }
-    }
-    end();
-}
-
-/// Whether a word is of a script that does not part words.
-bool IsUnparted(const QString& word)
-{
-    const QList<uint> characters = word.toUcs4();
-    return std::any_of(characters.begin(), characters.end(), [](uint character) {
-        switch (QChar::script(character)) {
-        case QChar::Script_Han:
-        case QChar::Script_Hiragana:
-        case QChar::Script_Katakana:
-        case QChar::Script_Thai:
-        case QChar::Script_Lao:
-        case QChar::Script_Khmer:
-        case QChar::Script_Myanmar:
-            return true;
-        default:
-            return false;
-        }
-    });
+    return HashedFurther(HashedFurther(hashStart, given), surname);
 }
 
 QStringList NameWords(const SiteRun& run, TreePosition person, std::size_t column)
@@ -135,12 +52,6 @@ QStringList TellingWords(QStringList words)
 }
 
 } // namespace
-
-/// The words of a text, hashed; and those of scripts that do not part words, with a blank where others stand between.
-struct HiddenNames::TextWords {
-    std::vector<quint64> hashes;
-    QString unparted;
-};
 
 HiddenNames::HiddenNames(const SiteRun& run)
 {
@@ -215,20 +126,6 @@ void HiddenNames::addRow(const QString& row)
     }
 }
 
-HiddenNames::TextWords HiddenNames::wordsOf(std::string_view text)
-{
-    TextWords words;
-    if (IsAscii(text)) {
-        AppendAsciiWords(words.hashes, text);
-        return words;
-    }
-    for (const QString& word : Words(text)) {
-        words.hashes.push_back(HashOf(word));
-        words.unparted += IsUnparted(word) ? word : QStringLiteral(" ");
-    }
-    return words;
-}
-
 bool HiddenNames::isNamedInRow(const QString& row) const
 {
     for (qsizetype begin = 0; begin < row.size(); ++begin) {
@@ -243,40 +140,44 @@ bool HiddenNames::isNamedInRow(const QString& row) const
     return false;
 }
 
-bool HiddenNames::isFullyNamedIn(const TextWords& words) const
+bool HiddenNames::isFullyNamedIn(const TextWords& text, Reach reach) const
 {
-    const std::vector<quint64>& hashes = words.hashes;
-    for (std::size_t first = 0; first < hashes.size(); ++first) {
-        if (m_rows.contains(hashes[first])) {
+    const std::vector<TextWord>& words = text.words;
+    for (std::size_t first = 0; first < words.size(); ++first) {
+        if (m_rows.contains(words[first].hash)) {
             return true;
         }
-        if (!m_words.contains(hashes[first])) {
+        if (!m_words.contains(words[first].hash)) {
             continue;
         }
-        const std::size_t end = std::min(first + furthestApart + 2, hashes.size());
+        const std::size_t end = std::min(first + furthestApart + 2, words.size());
         for (std::size_t second = first + 1; second < end; ++second) {
-            if (m_pairs.contains(PairOf(hashes[first], hashes[second]))) {
+            const bool together = reach == Reach::Text || words[first].clause == words[second].clause;
+            if ((together && m_pairs.contains(PairOf(words[first].hash, words[second].hash))) ||
+                ((together || second == first + 1) &&
+                 m_pairs.contains(PairOf(words[second].hash, words[first].hash)))) {
                 return true;
             }
         }
     }
-    return isNamedInRow(words.unparted);
+    return isNamedInRow(text.unparted);
 }
 
-bool HiddenNames::isAnyNamedIn(const TextWords& words) const
+bool HiddenNames::isAnyNamedIn(const TextWords& text) const
 {
-    return isFullyNamedIn(words) ||
-           m_wholeNames.contains(std::accumulate(words.hashes.begin(), words.hashes.end(), hashStart, HashedFurther));
-}
-
-bool HiddenNames::isFullyNamedIn(std::string_view text) const
-{
-    return !isEmpty() && isFullyNamedIn(wordsOf(text));
+    const quint64 whole = std::accumulate(text.words.begin(), text.words.end(), hashStart,
+                                          [](quint64 hash, TextWord word) { return HashedFurther(hash, word.hash); });
+    return m_wholeNames.contains(whole) || isFullyNamedIn(text, Reach::Text);
 }
 
 bool HiddenNames::isAnyNamedIn(std::string_view text) const
 {
-    return !isEmpty() && isAnyNamedIn(wordsOf(text));
+    return !isEmpty() && isAnyNamedIn(TextWords::of(text));
+}
+
+bool HiddenNames::isAnyNamedInFact(std::string_view text) const
+{
+    return !isEmpty() && isFullyNamedIn(TextWords::of(text), Reach::Clause);
 }
 
 bool HiddenNames::isAnyNamedIn(std::string_view text, const SiteRun& run,
@@ -290,11 +191,11 @@ bool HiddenNames::isAnyNamedIn(std::string_view text, const SiteRun& run,
     for (const TreePosition person : inPicture) {
         (run.mayBeNamed(person) ? open : hidden) += GivenNameWords(run, person);
     }
-    const TextWords words = wordsOf(text);
-    return isAnyNamedIn(words) || std::any_of(hidden.begin(), hidden.end(), [&](const QString& name) {
+    const TextWords found = TextWords::of(text);
+    return isAnyNamedIn(found) || std::any_of(hidden.begin(), hidden.end(), [&](const QString& name) {
+               const auto isName = [hash = HashOf(name)](const TextWord& word) { return word.hash == hash; };
                return name.size() >= shortestTellingName && !open.contains(name) &&
-                      (std::find(words.hashes.begin(), words.hashes.end(), HashOf(name)) != words.hashes.end() ||
-                       words.unparted.contains(name));
+                      (std::any_of(found.words.begin(), found.words.end(), isName) || found.unparted.contains(name));
            });
 }
 

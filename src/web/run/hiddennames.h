@@ -3,6 +3,7 @@
 #pragma once
 
 #include "index/familytree.h"
+#include "web/run/textwords.h"
 
 #include <QtCore/QSet>
 #include <QtCore/QStringList>
@@ -29,28 +30,30 @@ public:
     explicit HiddenNames(const SiteRun& run);
 
     /// Whether the text (UTF-8) names a hidden person: a given name and a surname close to each other, in any order and
-    /// letter case, or, in scripts that do not part words, anywhere in a row.
-    bool isFullyNamedIn(std::string_view text) const;
-
-    /// Whether it does, or is nothing but what there is of a name that has one part only.
+    /// letter case, or, in scripts that do not part words, in a row; or nothing but what there is of a name that has
+    /// one part only.
     bool isAnyNamedIn(std::string_view text) const;
+
+    /// Whether a date, a place or another text of a fact does. Places are full of names: here both have to stand
+    /// between the same commas, or as "Surname, Given", since "St Mary, Preston" is no Mary Preston.
+    bool isAnyNamedInFact(std::string_view text) const;
 
     /// Whether the text of a picture names a hidden person: as above, or by the given name alone of a hidden person
     /// whom the picture shows, unless somebody beside him who may be named has the name as well.
     bool isAnyNamedIn(std::string_view text, const SiteRun& run, const std::vector<TreePosition>& inPicture) const;
 
 private:
-    struct TextWords;
+    /// Where given name and surname may stand.
+    enum class Reach { Text, Clause };
 
     bool isEmpty() const { return m_pairs.isEmpty() && m_wholeNames.isEmpty(); }
 
-    static TextWords wordsOf(std::string_view text);
     void add(const SiteRun& run, TreePosition person);
     void addPair(const QString& given, const QString& surname);
     void addWhole(const QStringList& words);
     void addRow(const QString& row);
-    bool isFullyNamedIn(const TextWords& words) const;
-    bool isAnyNamedIn(const TextWords& words) const;
+    bool isFullyNamedIn(const TextWords& text, Reach reach) const;
+    bool isAnyNamedIn(const TextWords& text) const;
     bool isNamedInRow(const QString& row) const;
 
     // Names are kept as the hashes of their words. With as many bits as these no two names of a tree will ever be
@@ -58,7 +61,7 @@ private:
 
     /// The words that may be half of a name.
     QSet<quint64> m_words;
-    /// The pairs of given name and surname, and the same written in a row without a blank.
+    /// The pairs of given name and surname, in this order, and the same written in a row without a blank.
     QSet<quint64> m_pairs;
     QSet<quint64> m_rows;
     QSet<quint64> m_wholeNames;

@@ -121,7 +121,10 @@ std::string Collapsed(std::string_view utf8)
 std::string TidyName(std::string_view utf8)
 {
     constexpr std::string_view afterSurname = ", ";
-    const std::string name = Collapsed(utf8);
+    std::string name = Collapsed(utf8);
+    if (name.ends_with(',')) {
+        name.pop_back();
+    }
     return name.starts_with(afterSurname) ? name.substr(afterSurname.size()) : name;
 }
 

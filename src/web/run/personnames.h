@@ -76,8 +76,8 @@ std::string LifeYears(const SiteTexts& texts, TreePosition individual);
 /// The text without blanks at its ends and with one blank for several.
 std::string Collapsed(std::string_view utf8);
 
-/// A name that begins with the surname, tidied: without blanks too many and, where the surname is not known, without
-/// the comma after it.
+/// A name that begins with the surname, tidied: without blanks too many and, where the surname or the given name is not
+/// known, without the comma between them.
 std::string TidyName(std::string_view utf8);
 
 /// The head's name as the tree definition has it, tidied: "Windsor, Elizabeth".

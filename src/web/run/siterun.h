@@ -70,6 +70,10 @@ struct SiteRun {
 
     /// Whether a page of somebody else may name the person.
     bool mayBeNamed(TreePosition person) const;
+
+    /// Whether the setup lets an item of the person be shown: a private one is hidden for protected persons, one of a
+    /// family if either of the couple is protected.
+    bool mayShow(const PublishedItem& item, TreePosition person, TreePosition partner = nowhere) const;
 };
 
 } // namespace stemwright

@@ -15,10 +15,6 @@ namespace stemwright
 namespace
 {
 
-/// The indentation grows with the generation up to here only; a line of descent of thousands would otherwise be made of
-/// hardly anything else.
-constexpr int deepestIndentation = 250;
-
 /// In "&nbsp;", so that a child's name starts under its parent's.
 int Indentation(int generation)
 {
