@@ -54,6 +54,9 @@ public:
                 (this->*step.work)();
             }
         } catch (const StopWished&) {
+            // Before the message, which may stand there for hours.
+            m_newTables.reset();
+            m_progress.reset();
             stop(webmessages::BuildStopped(m_site));
         }
         m_newTables->commit();
