@@ -9,6 +9,8 @@
 #include "web/setup/setupmanager.h"
 #include "web/sitebuild.h"
 
+#include <QtCore/QFileInfo>
+
 namespace stemwright
 {
 
@@ -89,8 +91,9 @@ void Publish(CommandLine& line, const PublishArguments& arguments)
     FamilyFile& file = line.open(arguments.file);
     const QString setup = ChosenSetup(line, arguments);
     ProvideHeads(line, setup, arguments.head);
-    const std::optional<QString> index =
-        BuildWebPages(file, {setup, CommandLine::pathOf(arguments.output)}, line.environment());
+    const QString output =
+        arguments.output.empty() ? QString() : QFileInfo(CommandLine::pathOf(arguments.output)).absoluteFilePath();
+    const std::optional<QString> index = BuildWebPages(file, {setup, output}, line.environment());
     Require(index.has_value());
     TellWebPagesCreated(*index, line.environment());
     line.out() << *index << Qt::endl;

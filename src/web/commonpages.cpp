@@ -48,13 +48,12 @@ std::string ListOfPicturesLink(const SiteRun& run)
                                         "BORDER=\"0\" ALT=\"List of Pictures\"></A>";
 }
 
-/// The template ends the link of the sentence with pictures.
 std::string StartYourTour(const SiteRun& run, const TreesLink& trees)
 {
     const std::string start = "Start your tour at the <A HREF=\"NameIndex.html\">index</A> of names";
     return run.pictures.all().empty()
                ? start + " or " + trees.phrase + '.'
-               : start + ", " + trees.phrase + " or at the <A HREF=\"ListOfPics.html\">list of pictures.";
+               : start + ", " + trees.phrase + " or at the <A HREF=\"ListOfPics.html\">list of pictures.</A>";
 }
 
 std::string AuthorHtml(const QString& html)

@@ -15,6 +15,17 @@ QString Native(const QString& path)
     return QDir::toNativeSeparators(path);
 }
 
+/// A list that a message has room for.
+QString FirstOf(const QStringList& all)
+{
+    constexpr qsizetype most = 10;
+    QStringList first = all.first(std::min(all.size(), most));
+    if (all.size() > most) {
+        first << QStringLiteral("...");
+    }
+    return first.join(QStringLiteral(", "));
+}
+
 const QString supportAddress = QStringLiteral("support@stemwright.example");
 
 } // namespace
@@ -52,6 +63,11 @@ QString CopyingStandardFiles()
 QString LoadingIndividuals()
 {
     return QStringLiteral("Loading the list of individuals...");
+}
+
+QString BuildingTheTrees()
+{
+    return QStringLiteral("Building the family trees...");
 }
 
 QString EntryOf(const QString& display, const QString& headName)
@@ -111,6 +127,13 @@ Message OutputFolderHoldsFiles(const QString& folder)
 QString NoOutputFolder()
 {
     return QStringLiteral("The setup names no output folder. Please choose the folder for the web pages.");
+}
+
+QString IsNotAFullPath(const QString& folder)
+{
+    return QStringLiteral("The output folder %1 is not the full path of a folder on this computer. Please choose a new"
+                          " folder for the web pages.")
+        .arg(folder);
 }
 
 QString IsNotAFolder(const QString& path)
@@ -191,21 +214,25 @@ QString NoSuchTreeHead(const QString& headName, int id)
 
 Message TextsLeftOut(const std::vector<int>& pictures)
 {
-    constexpr std::size_t mostNumbers = 10;
     QStringList numbers;
     for (const int picture : pictures) {
-        if (static_cast<std::size_t>(numbers.size()) < mostNumbers) {
-            numbers << QString::number(picture);
-        }
-    }
-    if (pictures.size() > mostNumbers) {
-        numbers << QStringLiteral("...");
+        numbers << QString::number(picture);
     }
     return {QStringLiteral("Hidden persons in picture texts"),
             QStringLiteral("Texts of %1 of the published pictures seem to name a person who is hidden on this site."
                            "\nThese titles, places or descriptions were left out. Picture ID: %2")
                 .arg(pictures.size())
-                .arg(numbers.join(QStringLiteral(", "))),
+                .arg(FirstOf(numbers)),
+            Icon::Warning};
+}
+
+Message FactsLeftOut(const QStringList& persons)
+{
+    return {QStringLiteral("Hidden persons in facts"),
+            QStringLiteral("Facts of %1 of the published persons seem to name a person who is hidden on this site."
+                           "\nThese dates, places or other texts were left out. Persons: %2")
+                .arg(persons.size())
+                .arg(FirstOf(persons)),
             Icon::Warning};
 }
 
@@ -255,11 +282,13 @@ std::array<QString, 3> WebPagesCreatedTexts(const QString& folder)
             QStringLiteral("and double-click index.html.")};
 }
 
-Message BuildStopped()
+Message BuildStopped(StoppedSite site)
 {
     return {BuildingWebPages(),
-            QStringLiteral("Building your web pages was stopped. What is in the output folder is only a part of them: "
-                           "please build them again before you use them."),
+            QStringLiteral("Building your web pages was stopped. ") +
+                (site == StoppedSite::AsBefore ? QStringLiteral("What is in the output folder stayed as it was.")
+                                               : QStringLiteral("What is in the output folder is only a part of them: "
+                                                                "please build them again before you use them.")),
             Icon::Warning};
 }
 

@@ -18,6 +18,7 @@ QString PreparingTheOutputFolder();
 QString LoadingPictures();
 QString CopyingStandardFiles();
 QString LoadingIndividuals();
+QString BuildingTheTrees();
 QString EntryOf(const QString& display, const QString& headName);
 QString BuildingIndex();
 QString BuildingIndexAndPersonalPages();
@@ -30,6 +31,7 @@ Message CannotCreateFolder(const QString& folder);
 Message OutputFolderHoldsFiles(const QString& folder);
 /// Whole sentences for what keeps a folder from being an output folder.
 QString NoOutputFolder();
+QString IsNotAFullPath(const QString& folder);
 QString IsNotAFolder(const QString& path);
 QString IsRootFolder(const QString& folder);
 QString HoldsHomeFolder(const QString& folder);
@@ -47,6 +49,9 @@ QString NoSuchTreeHead(const QString& headName, int id);
 // The pictures, by their numbers.
 Message TextsLeftOut(const std::vector<int>& pictures);
 
+/// By the names of the persons.
+Message FactsLeftOut(const QStringList& persons);
+
 // The choice of a head.
 Message ProposeTreeHead(const QString& name, int id, std::size_t descendants);
 QString NoTreeHeadChosen(const QString& setupName);
@@ -57,8 +62,10 @@ QString TreesHaveHeads(const QString& setupName);
 Message WebPagesCreated(const QString& folder);
 /// Its lines: how to view the pages, where they are, and what to do there.
 std::array<QString, 3> WebPagesCreatedTexts(const QString& folder);
-/// What was written is only a part of the site.
-Message BuildStopped();
+/// What a build that the user stopped has done to the output folder: nothing, or written a part of the site.
+enum class StoppedSite { AsBefore, Begun };
+Message BuildStopped(StoppedSite site);
+
 Message CannotBuild(const QString& reason);
 
 } // namespace stemwright::webmessages

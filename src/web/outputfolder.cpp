@@ -9,6 +9,8 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
+
 namespace stemwright
 {
 
@@ -36,14 +38,16 @@ bool Contains(const QString& outer, const QString& inner)
 }
 
 /// Links count as the files that they are: deleting one leaves alone what it leads to.
-QFileInfoList FilesOf(const QString& folder)
+QStringList FilesOf(const QString& folder)
 {
-    QFileInfoList files;
+    QStringList files;
     for (const QFileInfo& entry : QDir(folder).entryInfoList(QDir::Files | QDir::System, QDir::Name)) {
         if (entry.isFile() || entry.isSymLink()) {
-            files << entry;
+            files << entry.absoluteFilePath();
         }
     }
+    std::stable_partition(files.begin(), files.end(),
+                          [](const QString& file) { return file.endsWith(QStringLiteral("/index.html")); });
     return files;
 }
 
@@ -65,23 +69,6 @@ bool Create(const QString& folder, Talk& talk)
     return true;
 }
 
-bool Empty(const QString& folder, Talk& talk)
-{
-    const QFileInfoList files = FilesOf(folder);
-    if (files.isEmpty()) {
-        return true;
-    }
-    if (talk.ask(webmessages::OutputFolderHoldsFiles(folder)) != Button::Ok) {
-        return false;
-    }
-    for (const QFileInfo& file : files) {
-        if (!QFile::remove(file.filePath())) {
-            throw Error(webmessages::CannotDeleteFile(file.filePath()));
-        }
-    }
-    return true;
-}
-
 } // namespace
 
 ProtectedPlaces ProtectedPlaces::of(const QString& familyFile, const ApplicationFolder& application)
@@ -93,6 +80,9 @@ std::optional<QString> WhyNoOutputFolder(const QString& folder, const ProtectedP
 {
     if (folder.trimmed().isEmpty()) {
         return webmessages::NoOutputFolder();
+    }
+    if (QDir::isRelativePath(folder)) {
+        return webmessages::IsNotAFullPath(folder);
     }
     const QString resolved = Resolved(folder);
     if (QFileInfo(resolved).isRoot()) {
@@ -116,12 +106,29 @@ std::optional<QString> WhyNoOutputFolder(const QString& folder, const ProtectedP
     return std::nullopt;
 }
 
-bool PrepareOutputFolder(const QString& folder, const ProtectedPlaces& places, Talk& talk)
+std::optional<OutputFolder> PrepareOutputFolder(const QString& folder, const ProtectedPlaces& places, Talk& talk)
 {
     if (const std::optional<QString> reason = WhyNoOutputFolder(folder, places)) {
         throw Error(*reason);
     }
-    return QFileInfo::exists(folder) ? Empty(folder, talk) : Create(folder, talk);
+    if (!QFileInfo::exists(folder) && !Create(folder, talk)) {
+        return std::nullopt;
+    }
+    OutputFolder agreed{QDir(folder).absolutePath(), FilesOf(folder)};
+    if (!agreed.oldFiles.isEmpty() && talk.ask(webmessages::OutputFolderHoldsFiles(folder)) != Button::Ok) {
+        return std::nullopt;
+    }
+    return agreed;
+}
+
+void EmptyOutputFolder(const OutputFolder& folder)
+{
+    for (const QString& file : folder.oldFiles) {
+        // One that is gone by now is as good as deleted.
+        if (!QFile::remove(file) && (QFileInfo::exists(file) || QFileInfo(file).isSymLink())) {
+            throw Error(webmessages::CannotDeleteFile(file));
+        }
+    }
 }
 
 } // namespace stemwright

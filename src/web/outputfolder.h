@@ -5,6 +5,8 @@
 #include "base/applicationfolder.h"
 #include "base/talk.h"
 
+#include <QtCore/QStringList>
+
 #include <optional>
 
 /// The folder that a site is written into. Files of the user's are in danger here, so it is checked for being a
@@ -26,9 +28,20 @@ struct ProtectedPlaces {
 /// Why no site may be written into a folder, as a whole sentence; no value when one may.
 std::optional<QString> WhyNoOutputFolder(const QString& folder, const ProtectedPlaces& places);
 
-/// Makes the folder ready: creates it, or empties it of its files (not of hidden files, and not of folders), each after
-/// asking. False when the user would rather not, or was told that it cannot be created. Throws Error, having changed
-/// nothing, for a folder that is no place for a site, and when a file cannot be deleted.
-bool PrepareOutputFolder(const QString& folder, const ProtectedPlaces& places, Talk& talk);
+/// A folder that the user agreed to.
+struct OutputFolder {
+    QString path;
+    /// The full paths of the files in it that may be deleted: not hidden ones, and no folders.
+    QStringList oldFiles;
+};
+
+/// Agrees on the folder: creates one that does not exist, and makes sure that the files of one that does may be
+/// deleted, each after asking. No value when the user would rather not, or was told that it cannot be created. Throws
+/// Error for a folder that is no place for a site.
+std::optional<OutputFolder> PrepareOutputFolder(const QString& folder, const ProtectedPlaces& places, Talk& talk);
+
+/// Deletes the old files, index.html before all others, so that what is left never passes for a site. Throws Error when
+/// one cannot be deleted.
+void EmptyOutputFolder(const OutputFolder& folder);
 
 } // namespace stemwright

@@ -9,6 +9,7 @@
 #include "web/outputfolder.h"
 #include "web/people/nameindex.h"
 #include "web/pictures/albumpages.h"
+#include "web/run/hiddenfacts.h"
 #include "web/setup/setupchecks.h"
 #include "web/standardfiles.h"
 #include "web/treelist.h"
@@ -17,9 +18,10 @@
 #include "web/trees/outlinepages.h"
 #include "web/worktables.h"
 
-#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 
 #include <future>
+#include <set>
 
 namespace stemwright
 {
@@ -42,37 +44,45 @@ public:
 
     QString run()
     {
-        for (const Step& step : steps()) {
-            m_progress->setCaption(step.caption);
-            m_progress->setPercent(0);
-            if (step.mayStop && m_progress->stopWished()) {
-                throw StopWished{};
+        try {
+            for (const Step& step : steps()) {
+                m_progress->setCaption(step.caption);
+                m_progress->setPercent(0);
+                if (m_progress->stopWished()) {
+                    throw StopWished{};
+                }
+                (this->*step.work)();
             }
-            (this->*step.work)();
+        } catch (const StopWished&) {
+            // Before the message, which may stand there for hours.
+            m_newTables.reset();
+            m_progress.reset();
+            stop(webmessages::BuildStopped(m_site));
         }
         m_newTables->commit();
         m_progress.reset();
-        return m_folder + QStringLiteral("/index.html");
+        return m_folder.path + QStringLiteral("/index.html");
     }
 
 private:
     struct Step {
         QString caption;
         void (SiteBuild::*work)();
-        /// From where on only the site itself is unfinished when the user stops.
-        bool mayStop = true;
     };
 
+    /// All that is asked and read comes before the first file is touched, so that a build which fails or is called off
+    /// until then leaves the site of the last one as it is.
     static std::vector<Step> steps()
     {
         using namespace webmessages;
-        return {{SavingTheSetup(), &SiteBuild::loadSetup, false},
-                {Initializing(), &SiteBuild::loadTree, false},
-                {PreparingTheOutputFolder(), &SiteBuild::prepareFolder, false},
+        return {{SavingTheSetup(), &SiteBuild::loadSetup},
+                {Initializing(), &SiteBuild::loadTree},
+                {PreparingTheOutputFolder(), &SiteBuild::prepareFolder},
                 {LoadingPictures(), &SiteBuild::loadPictures},
-                {CopyingStandardFiles(), &SiteBuild::copyStandardFiles},
                 {LoadingIndividuals(), &SiteBuild::loadIndividuals},
-                {LoadingIndividuals(), &SiteBuild::buildTrees},
+                {LoadingIndividuals(), &SiteBuild::walkTrees},
+                {CopyingStandardFiles(), &SiteBuild::copyStandardFiles},
+                {BuildingTheTrees(), &SiteBuild::buildTrees},
                 {BuildingIndex(), &SiteBuild::buildIndex},
                 {ProcessingPicture(), &SiteBuild::buildAlbum},
                 {WritingCommonPages(), &SiteBuild::writeCommonPages}};
@@ -87,15 +97,13 @@ private:
         if (const std::optional<Message> failure = CheckSetup(*m_setup)) {
             stop(*failure);
         }
-        m_folder = m_request.outputFolder.isEmpty() ? m_setup->folder : m_request.outputFolder;
     }
 
-    /// Whatever keeps the trees from being built has to come up before the output folder is emptied.
     void loadTree()
     {
         m_tree = FamilyTree::load(m_connection);
         for (const TreeDefinition& tree : m_setup->trees) {
-            if (!m_tree.findIndividual(tree.headId.value_or(0))) {
+            if (!tree.headId || !m_tree.findIndividual(*tree.headId)) {
                 throw Error(webmessages::NoSuchTreeHead(tree.headName, tree.headId.value_or(0)));
             }
         }
@@ -104,33 +112,49 @@ private:
     void prepareFolder()
     {
         const ProtectedPlaces places = ProtectedPlaces::of(m_file.path(), m_environment.application);
-        if (!PrepareOutputFolder(m_folder, places, m_environment.talk)) {
+        const QString folder = m_request.outputFolder.isEmpty() ? m_setup->folder : m_request.outputFolder;
+        std::optional<OutputFolder> agreed = PrepareOutputFolder(folder, places, m_environment.talk);
+        if (!agreed) {
             throw Stopped{};
         }
-        m_folder = QDir(m_folder).absolutePath();
+        m_folder = std::move(*agreed);
     }
 
     void loadPictures() { m_album = AlbumPictures::load(m_connection, m_tree); }
-
-    void copyStandardFiles() { CopyStandardFiles(m_setup->pageStyle, m_environment.application, m_folder); }
 
     void loadIndividuals()
     {
         const RunSettings settings = RunSettings::of(*m_setup, m_environment.clock);
         m_texts = SiteTexts::load(m_connection, m_tree, m_setup->items);
         m_privacy.emplace(m_tree, *m_texts, settings.protectedPersons, settings.maxPrivacyAge, settings.currentYear);
-        m_names.emplace(*m_texts, m_tree.individuals());
-        m_run.emplace(SiteRun{
-            *m_setup, settings, m_tree, *m_texts, *m_privacy, *m_names, m_environment.application, m_folder, {}, {}});
+        m_names.emplace(*m_texts, *m_privacy, m_tree.individuals());
+        m_run.emplace(SiteRun{*m_setup, settings, m_tree, *m_texts, *m_privacy, *m_names, m_environment.application,
+                              m_folder.path});
     }
 
-    /// All walks come before the first page, so that a build which the user stops at a question has written none.
-    void buildTrees()
+    void walkTrees()
     {
         for (const TreeDefinition& definition : m_setup->trees) {
             addTree(definition);
         }
+        tellMissingFamilies();
+        m_run->hiddenNames = HiddenNames(*m_run);
         m_run->pictures = PublishedPictures(std::move(m_album), *m_run);
+        if (const std::vector<TreePosition> persons = WithholdFacts(*m_texts, *m_run); !persons.empty()) {
+            tellFactsLeftOut(persons);
+        }
+    }
+
+    void copyStandardFiles()
+    {
+        RequireTemplates(m_setup->pageStyle, m_environment.application);
+        m_site = webmessages::StoppedSite::Begun;
+        EmptyOutputFolder(m_folder);
+        CopyStandardFiles(m_setup->pageStyle, m_environment.application, m_folder.path);
+    }
+
+    void buildTrees()
+    {
         for (const PublishedTree& tree : m_run->trees) {
             StepProgress progress(
                 *m_progress, webmessages::EntryOf(DisplayName(tree.display), QString::fromStdString(tree.headName)),
@@ -171,8 +195,7 @@ private:
             limits.generationsOnPage = m_run->settings.generationsOnPage;
         }
         const auto walk = display == TreeDisplay::AncestorTree ? TreeWalk::ofAncestors : TreeWalk::ofDescendants;
-        m_run->trees.push_back(MakePublishedTree(definition, walk(m_tree, *m_privacy, head, limits)));
-        tellMissingFamilies(m_run->trees.back().walk);
+        m_run->trees.push_back(MakePublishedTree(*m_run, definition, walk(m_tree, *m_privacy, head, limits)));
     }
 
     /// Whether the individual names a family as the parents', be its record missing, and somebody in it.
@@ -183,15 +206,31 @@ private:
                (!m_tree.hasRecord(family) || m_tree.husband(family) != nowhere || m_tree.wife(family) != nowhere);
     }
 
-    void tellMissingFamilies(const TreeWalk& walk)
+    void tellFactsLeftOut(const std::vector<TreePosition>& persons)
+    {
+        QStringList names;
+        for (const TreePosition person : persons) {
+            names << QStringLiteral("%1 (%2)")
+                         .arg(QString::fromStdString(m_names->displayName(person)))
+                         .arg(m_tree.individualId(person));
+        }
+        m_environment.talk.tell(webmessages::FactsLeftOut(names));
+    }
+
+    /// Tells of each family once, in whatever trees it is missed.
+    void tellMissingFamilies()
     {
         constexpr std::size_t mostMessages = 5;
-        const std::size_t missing = walk.missingFamilies().size();
-        for (std::size_t number = 0; number < std::min(missing, mostMessages); ++number) {
-            m_environment.talk.tell(webmessages::MissingFamilyRecord(m_tree.familyId(walk.missingFamilies()[number])));
+        std::set<TreePosition> missing;
+        for (const PublishedTree& tree : m_run->trees) {
+            for (const TreePosition family : tree.walk.missingFamilies()) {
+                if (missing.insert(family).second && missing.size() <= mostMessages) {
+                    m_environment.talk.tell(webmessages::MissingFamilyRecord(m_tree.familyId(family)));
+                }
+            }
         }
-        if (missing > mostMessages) {
-            m_environment.talk.tell(webmessages::MoreMissingFamilyRecords(missing - mostMessages));
+        if (missing.size() > mostMessages) {
+            m_environment.talk.tell(webmessages::MoreMissingFamilyRecords(missing.size() - mostMessages));
         }
     }
 
@@ -238,7 +277,8 @@ private:
     Environment& m_environment;
     std::unique_ptr<Progress> m_progress;
     std::optional<Setup> m_setup;
-    QString m_folder;
+    OutputFolder m_folder;
+    webmessages::StoppedSite m_site = webmessages::StoppedSite::AsBefore;
     FamilyTree m_tree;
     AlbumPictures m_album;
     std::optional<SiteTexts> m_texts;
@@ -255,9 +295,6 @@ std::optional<QString> BuildWebPages(FamilyFile& file, const SiteRequest& reques
     try {
         return SiteBuild(file, request, environment).run();
     } catch (const Stopped&) {
-        return std::nullopt;
-    } catch (const StopWished&) {
-        environment.talk.tell(webmessages::BuildStopped());
         return std::nullopt;
     } catch (const std::exception& exception) {
         environment.talk.tell(webmessages::CannotBuild(ErrorText(exception)));

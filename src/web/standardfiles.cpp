@@ -9,6 +9,8 @@
 
 #include <QtCore/QDir>
 
+#include <array>
+
 namespace stemwright
 {
 
@@ -27,7 +29,25 @@ void CopyFiles(const QString& from, const QString& to)
     }
 }
 
+constexpr std::array<const char*, 14> templates = {
+    "ctreetop.html", "nameindextop.html",  "perspagetop.html",   "piclist.html",        "piclisttop.html",
+    "picpage.js",    "picpagebot_na.html", "picpagebot_nl.html", "picpagetop_arr.html", "picpagetop_rec.html",
+    "sniffer.js",    "thumbgalltop.html",  "topleft.html",       "treelisttop.html"};
+
+constexpr std::array<const char*, 5> templatesOfStyle = {"bottom.html", "left.html", "main.html", "topright.html",
+                                                         "tree.html"};
+
 } // namespace
+
+void RequireTemplates(int pageStyle, const ApplicationFolder& application)
+{
+    for (const char* name : templates) {
+        ReadWholeFile(application.file(QStringLiteral("html/") + QLatin1StringView(name)));
+    }
+    for (const char* name : templatesOfStyle) {
+        ReadWholeFile(StyleFolder(pageStyle, application) + u'/' + QLatin1StringView(name));
+    }
+}
 
 void CopyStandardFiles(int pageStyle, const ApplicationFolder& application, const QString& outputFolder)
 {

@@ -33,7 +33,7 @@ void AppendRow(PageFile& file, const SiteRun& run, const PublishedTree& tree)
     AppendCell(file, "<TD>", name);
     AppendCell(file, "<TD>", display);
     AppendCell(file, "<TD WIDTH=5%>",
-               "<A HREF=\"" + FirstPageName(tree, run.tree) + "\"><IMG SRC=\"" + TreeIcon(tree.definition) +
+               "<A HREF=\"" + FirstPageName(tree, run.tree) + "\"><IMG SRC=\"" + tree.icon +
                    "\" ALIGN=\"ABSMIDDLE\" VSPACE=\"0\" BORDER=\"0\"></A>");
     file.line("</TR>");
 }

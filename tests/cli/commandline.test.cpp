@@ -57,6 +57,8 @@ TEST(CommandLine, TakesPathsOfEveryKind)
         EXPECT_EQ(published.output, site + "/index.html\n") << name << '\n' << published;
         EXPECT_TRUE(QFileInfo::exists(site + "/index.html")) << name;
     }
+    const Outcome relative = world.run({"--yes", "publish", world.path("Семья.kvf"), "--output", "./beside"});
+    EXPECT_EQ(relative.output, world.path("beside/index.html") + '\n') << relative;
 }
 
 TEST(CommandLine, WorksWhereTheSystemNamesNoEncoding)

@@ -202,7 +202,7 @@ test("a sheet of paper begins with whole rectangles", async () => {
             const whole = [...stripe.querySelectorAll(".cell")].every((cell) => cell.offsetTop >= -1 && cell.offsetTop + cell.offsetHeight <= stripe.offsetHeight + 1);
             return { height: stripe.getBoundingClientRect().height, whole, kept: getComputedStyle(stripe).breakInside };
         }));
-        assert.ok(stripes.every(({ height, whole, kept }) => whole && kept === "avoid" && height < 700), JSON.stringify(stripes));
+        assert.ok(stripes.length > 1 && stripes.every(({ height, whole, kept }) => whole && kept === "avoid" && height < 700), JSON.stringify(stripes));
         const width = await page.evaluate(() => document.querySelector(".chart").getBoundingClientRect().width);
         assert.ok(width <= 961, `the chart is ${width} wide on paper`);
     }

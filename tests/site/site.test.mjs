@@ -46,8 +46,8 @@ const kinds = {
     "several trees, personal pages": { gedcom: "thornbury.ged", settings: { ...memories, PersPages: 1, MaxGenOnPage: 2 }, trees: [outline(1), collapsible(1), outline(3), descendants(1), ancestors(52)], album },
     "several trees, no personal pages": { gedcom: "thornbury.ged", settings: { ...oldBook, PersPages: 0, MaxGenOnPage: 2 }, trees: [collapsible(1), outline(1), ancestors(59)], album },
     "one descendant tree, no personal pages": { gedcom: "thornbury.ged", settings: { ...memories, PersPages: 0, MaxGenOnPage: 3 }, trees: [descendants(1)], album },
-    "one collapsible tree, no personal pages": { gedcom: "thornbury.ged", settings: { ...memories, PersPages: 0 }, trees: [collapsible(1)] },
-    "a subsite": { gedcom: "thornbury.ged", settings: { ...oldBook, PersPages: 1, Standalone: 0, HomePageName: "../family.kvf" }, trees: [outline(1)] },
+    "one collapsible tree, no personal pages": { gedcom: "thornbury.ged", settings: { ...memories, PersPages: 0, TitleStory: "<P>Long ago.</P>\n\n\n<P>And today.</P>" }, trees: [collapsible(1)] },
+    "a subsite": { gedcom: "thornbury.ged", settings: { ...oldBook, PersPages: 1, Standalone: 0, HomePageName: "../family.kvf", TitleStory: "Long ago.\n\nAnd <b>today</b>." }, trees: [outline(1)] },
     "hostile texts, personal pages": { gedcom: "hostile.ged", settings: { ...oldBook, PersPages: 1, MaxGenOnPage: 2 }, trees: [outline(1), collapsible(1), descendants(1), ancestors(13)], album: hostileAlbum },
     "hostile texts, no personal pages": { gedcom: "hostile.ged", settings: { ...memories, PersPages: 0, MaxGenOnPage: 2 }, trees: [collapsible(1), outline(1), ancestors(13), descendants(1)], album: hostileAlbum },
     "living hidden": { gedcom: "living.ged", settings: { ...oldBook, PersPages: 1, HideLiving: 1, MaxPrivacyAge: 900 }, trees: [outline(1), collapsible(1), descendants(1), ancestors(11)], album: livingAlbum },
@@ -141,6 +141,8 @@ for (const kind of Object.keys(kinds)) {
             }
         }
         assert.deepEqual(nowhere, []);
+        const firstPage = fs.readFileSync(path.join(site, "main.html"), "latin1");
+        assert.equal(firstPage.match(/<a\b/gi).length, firstPage.match(/<\/a>/gi).length, "links that begin and end");
         assert.ok(followed > 50, `only ${followed} links were found`);
         const linked = new Set(Object.values(seen).flatMap(({ references }) => references.map(({ url }) => path.relative(site, fileURLToPath(url.startsWith("file:") ? url.split("#")[0] : "file:///")))));
         assert.deepEqual(pagesOf(site).filter((name) => !linked.has(name) && name !== "index.html" && (name !== "TreeList.html" || kinds[kind].trees.length > 1)), [], "pages that nothing leads to");
@@ -184,6 +186,14 @@ test("the path of pages shows, page by page, and leads back", async (t) => {
         assert.ok(path.length >= 2 && /Thornbury|Lockhart/.test(path[0]), `the longest path is ${path}`);
     }
     assert.deepEqual(page.complaints, []);
+});
+
+test("the paragraphs of the story stay apart, typed or tagged", async (t) => {
+    for (const kind of ["a subsite", "one collapsible tree, no personal pages"]) {
+        const page = await visit(t, kind);
+        const story = await page.frame("frmCenter").locator(".story").innerText();
+        assert.match(story.trim(), /^Long ago\.\n\nAnd today\.$/, kind);
+    }
 });
 
 test("the parts of the site are reached from the upper frame", async (t) => {

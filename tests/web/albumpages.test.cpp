@@ -95,7 +95,7 @@ TEST(AlbumPages, PagesOfAnAlbumAreAsTheyWereReviewed)
     EXPECT_THAT(
         site.page("NameIndex.html"),
         HasSubstr("<A HREF=\"PicPage1.html\"><IMG SRC=\"graphics/photo.gif\" ALT=\"Picture with This Person\""));
-    EXPECT_THAT(site.page("main.html"), HasSubstr(" or at the <A HREF=\"ListOfPics.html\">list of pictures."));
+    EXPECT_THAT(site.page("main.html"), HasSubstr(" or at the <A HREF=\"ListOfPics.html\">list of pictures.</A>"));
     EXPECT_THAT(site.page("topright.html"), HasSubstr("<A HREF=\"ListOfPics.html\"><IMG SRC=\"graphics/btn_pic"));
 }
 
@@ -152,6 +152,50 @@ TEST(AlbumPages, NothingNamesHiddenPersons)
     EXPECT_THAT(site.page("ListOfPics.html"), HasSubstr("Veranda with Vivid lights"));
     EXPECT_FALSE(site.has("PicPage3.html") || site.has("Pic3.jpg") || site.has("Thumb_3.bmp"));
     EXPECT_FALSE(site.has("PicList13.html") || site.has("Thumbs_13_1.html"));
+}
+
+TEST(AlbumPages, TypedNamesAreSearchedForHiddenPersons)
+{
+    for (const QStringList& row : TestTable("web/hiddennames.txt")) {
+        AlbumSite site;
+        site.setup("HideLiving = 1, Pictures4ThisTreeOnly = 0");
+        const auto living = [&site](int id, const char* given, const char* surname, const char* alias) {
+            site.build.person(id, given, surname, {{"BIRT_Date", "1990"}, {"Alias", alias}});
+        };
+        living(21, "太郎", "山田", nullptr);
+        living(22, "สมชาย", "ใจดี", nullptr);
+        living(23, "Mary", "of England", "Bess");
+        living(24, "Lee", nullptr, nullptr);
+        site.build.person(25, "Henry", "Percy", {{"DEAT_Date", "2001"}}).family(21, 25, 23, {});
+        site.picture(1).mark(1, 0, row[0]).mark(1, 5, "Jane");
+        ASSERT_TRUE(site.publish());
+        const qsizetype names = QString::fromStdString(site.page("PicPage1.html")).count("33.3%");
+        EXPECT_EQ(names, row[1] == "yes" ? 1 : 2) << row[0];
+    }
+}
+
+TEST(AlbumPages, TypedNamesBelongToNobody)
+{
+    // GEDCOM files may number individuals from 0; 13 is protected.
+    for (const char* birth : {"1800", "1990"}) {
+        AlbumSite site;
+        site.setup("HideLiving = 1, Pictures4ThisTreeOnly = 0");
+        site.build.person(0, "Zero", "Null", {{"BIRT_Date", birth}});
+        site.picture(1).mark(1, 0, "Vera Vivid").mark(1, 0, "Uncle Bob");
+        ASSERT_TRUE(site.publish());
+        EXPECT_THAT(site.page("PicPage1.html"), AllOf(HasSubstr("Uncle Bob"), Not(HasSubstr("Vera")))) << birth;
+    }
+}
+
+TEST(AlbumPages, NamesOfMarksThatBecameSomebodyElsesAreNotShown)
+{
+    AlbumSite site;
+    site.setup("PersPages = 1, HideLiving = 1, Pictures4ThisTreeOnly = 0");
+    site.picture(1).mark(1, 3, "Vivid, Vera").mark(1, 5, "Aunt Jane");
+    ASSERT_TRUE(site.publish());
+    EXPECT_THAT(site.page("PicPage1.html"),
+                AllOf(Not(HasSubstr("Vera")), HasSubstr("PersPage_3.html\" TARGET=\"frmCenter\">Wood, Mary</A>"),
+                      HasSubstr("Aunt Jane</A>")));
 }
 
 TEST(AlbumPages, GalleriesTurnThePageAfter24Pictures)

@@ -31,7 +31,7 @@ protected:
 
     QString path(const char* name) const { return world.path(name); }
 
-    bool prepare(const QString& folder)
+    std::optional<OutputFolder> prepare(const QString& folder)
     {
         return PrepareOutputFolder(folder, {path("files/Family.kvf"), path("home"), path("app"), path("app/fampages")},
                                    world.talk);
@@ -62,6 +62,8 @@ TEST_F(OutputFolderTest, RefusesFoldersThatAreNoPlaceForASite)
                                              path("app/html"),
                                              path("app/new"),
                                              path("plain"),
+                                             "site",
+                                             "C:\\App\\fampages\\Old",
                                              path("plain/below")}) {
         if (folder == path("plain/below")) {
             world.talk.expect("The output folder").expect("Cannot create folder");
@@ -98,12 +100,19 @@ TEST_F(OutputFolderTest, DeletesItsFilesOnlyAndOnlyAfterAsking)
     world.talk.expect("There are already some files", Button::Cancel);
     EXPECT_FALSE(prepare(path("out")));
     EXPECT_TRUE(exists("out/index.html"));
+    world.write("out/a.html", "old");
     world.talk.expect("There are already some files");
-    EXPECT_TRUE(prepare(path("out")));
+    const std::optional<OutputFolder> agreed = prepare(path("out"));
+    ASSERT_TRUE(agreed);
+    EXPECT_TRUE(exists("out/index.html")) << "nothing is deleted yet";
+    EXPECT_EQ(agreed->oldFiles.value(0), path("out/index.html")) << "what passes for a site goes first";
+    world.write("out/later.html", "not asked about");
+    QFile::remove(path("out/a.html"));
+    EmptyOutputFolder(*agreed);
     EXPECT_FALSE(exists("out/index.html"));
     EXPECT_FALSE(QFileInfo(path("out/link.html")).isSymLink());
     EXPECT_FALSE(QFileInfo(path("out/broken.html")).isSymLink());
-    for (const char* kept : {"out/.htaccess", "out/graphics/a.gif", "plain", "backups/Old.ffb"}) {
+    for (const char* kept : {"out/.htaccess", "out/graphics/a.gif", "out/later.html", "plain", "backups/Old.ffb"}) {
         EXPECT_TRUE(exists(kept)) << kept;
     }
 }

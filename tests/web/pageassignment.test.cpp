@@ -78,8 +78,39 @@ TEST_F(PageAssignmentTest, HiddenPersonsAreLeftOutWithTheirFamilies)
     build.run("UPDATE Indi SET BIRT_Date = '1990' WHERE Id IN (1, 3, 4)");
     // The head is written all the same; spouse 3 goes with child 5, child 4 with child 6.
     build.family(1, 1, 2, {4, 7}).family(2, 1, 3, {5}).family(3, 4, 0, {6});
+    build.run("UPDATE Indi SET DEAT_Place = '' WHERE Id = 7");
     EXPECT_EQ(walk({}, ProtectedPersons::Hidden), "1:1@1 1+2@1 2:7@1");
     EXPECT_EQ(walk({}), "1:1@1 1+2@1 2:4@1 2+?@1 3:6@1 2:7@1 1+3@1 2:5@1");
+}
+
+TEST_F(PageAssignmentTest, DescendantsOfHiddenPersonsWhoMayLiveAreLeftOut)
+{
+    build.persons(9);
+    // 3 is living; her child 2 marries 1 and is the parent of 4, 5 the child of 4. 6 and 7 are the head's without her.
+    build.family(1, 0, 3, {2}).family(2, 1, 2, {4}).family(3, 4, 0, {5}).family(4, 1, 6, {7});
+    build.run("UPDATE Indi SET BIRT_Date = '1990' WHERE Id = 3");
+
+    struct Case {
+        const char* column;
+        const char* value;
+        const char* descendants;
+        const char* ancestors;
+    };
+
+    for (const auto& [column, value, descendants, ancestors] :
+         {Case{"BIRT_Date", "NULL", "1:1@1 1+6@1 2:7@1", "1:1@1"},
+          Case{"BIRT_Date", "'about 12 May'", "1:1@1 1+6@1 2:7@1", "1:1@1"},
+          Case{"BIRT_Date", "'1850'", "1:1@1 1+2@1 1+6@1 2:7@1", "1:1@1 2:2@1"},
+          Case{"DEAT_Date", "'2001'", "1:1@1 1+2@1 1+6@1 2:7@1", "1:1@1 2:2@1"},
+          Case{"DEAT_Place", "''", "1:1@1 1+2@1 1+6@1 2:7@1", "1:1@1 2:2@1"}}) {
+        build.run("UPDATE Indi SET BIRT_Date = NULL, DEAT_Date = NULL, DEAT_Place = NULL WHERE Id = 2");
+        build.run(QString("UPDATE Indi SET %1 = %2 WHERE Id = 2").arg(column, value));
+        EXPECT_EQ(walk({}, ProtectedPersons::Hidden), descendants) << column << value;
+        // Where 1 is the head as the child of 2, he stays whatever is known of him.
+        build.run("UPDATE Indi SET FAMC = 2 WHERE Id = 1");
+        EXPECT_EQ(walk({}, ProtectedPersons::Hidden, TreeWalk::ofAncestors), ancestors) << column << value;
+        build.run("UPDATE Indi SET FAMC = NULL WHERE Id = 1");
+    }
 }
 
 TEST_F(PageAssignmentTest, AncestorsAreMetGenerationByGeneration)
@@ -97,6 +128,7 @@ TEST_F(PageAssignmentTest, AncestorsAreMetGenerationByGeneration)
     EXPECT_EQ(ancestors({.totalGenerations = 1}), "1:1@1");
     // The head is written all the same; 3 and 4 are left out with those beyond.
     build.run("UPDATE Indi SET BIRT_Date = '1990' WHERE Id IN (1, 3, 4)");
+    build.run("UPDATE Indi SET DEAT_Date = '2001' WHERE Id = 2");
     EXPECT_EQ(ancestors({}, ProtectedPersons::Hidden), "1:1@1 2:2@1 3:5@1 4:5=@1");
 }
 

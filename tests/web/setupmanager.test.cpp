@@ -54,9 +54,10 @@ TEST_F(SetupManagerTest, NewSetupHasTheDefaultsUnderItsName)
 TEST_F(SetupManagerTest, UnusableNamesAreRefusedAndChangeNothing)
 {
     const QString tooLong(255, u'x');
-    const std::pair<const char*, QStringList> cases[] = {{"No Setup Name", {QString(), "  "}},
-                                                         {"Duplicate setup name", {"DEFAULT", "Default  ", "müller"}},
-                                                         {"Web Site Setup", {"..", "a/../b", "a\\", "a\nb", tooLong}}};
+    const std::pair<const char*, QStringList> cases[] = {
+        {"No Setup Name", {QString(), "  "}},
+        {"Duplicate setup name", {"DEFAULT", "Default  ", "müller"}},
+        {"Web Site Setup", {"..", "a/../b", "a\\", "a\\Graphics", "a\nb", tooLong}}};
     ASSERT_TRUE(manager.create("MÜLLER"));
     const QStringList before = Everything(world);
     for (const auto& [title, names] : cases) {

@@ -16,6 +16,7 @@ namespace stemwright::test
 namespace
 {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -39,7 +40,9 @@ TEST(SiteBuild, PagesOfAFamilyAreAsTheyWereReviewed)
                 " Standalone = 0, HomePageName = '../a&b.html'");
     world.head(4, "Hart, John", "CollapsiTree");
     ASSERT_TRUE(world.publish());
-    for (const QString& name : QDir(TestData("web/harts")).entryList(QDir::Files)) {
+    const QStringList reviewed = QDir(TestData("web/harts")).entryList(QDir::Files);
+    ASSERT_EQ(reviewed.size(), 10);
+    for (const QString& name : reviewed) {
         EXPECT_EQ(world.page(name), TestDataText("web/harts/" + name).toStdString()) << name;
     }
     EXPECT_EQ(world.page("left.html"), "left of Memories\n");
@@ -54,7 +57,9 @@ TEST(SiteBuild, TreesOfRectanglesAreAsTheyWereReviewed)
     world.build.run("UPDATE TreeHeads SET GenDisplayType = 'descendant tree'");
     world.head(13, "Vivid, Vera", "Ancestor Tree");
     ASSERT_TRUE(world.publish());
-    for (const QString& name : QDir(TestData("web/rectangles")).entryList(QDir::Files)) {
+    const QStringList reviewed = QDir(TestData("web/rectangles")).entryList(QDir::Files);
+    ASSERT_EQ(reviewed.size(), 3);
+    for (const QString& name : reviewed) {
         EXPECT_EQ(world.page(name), TestDataText("web/rectangles/" + name).toStdString()) << name;
     }
     // Nobody descends from the head of a tree of ancestors.
@@ -71,13 +76,19 @@ TEST(SiteBuild, NothingOfHiddenPersonsIsPublished)
     world.build.person(16, "Dead", "Vivid", {{"DEAT_Date", "2020"}})
         .person(17, "Grand", "Hidden")
         .person(18, "Ina", "Law")
-        .family(9, 6, 13, {16}, {{"Marriage_Place", "Secrethall"}})
+        .person(19, "Secreta", "Child")
+        .person(20, "Secretita", "Grandchild")
+        .family(9, 6, 13, {16, 19}, {{"Marriage_Place", "Secrethall"}})
+        .family(11, 15, 19, {20}, {{"Marriage_Place", "Secretchurch"}})
+        .run("INSERT INTO AlbumTOC (PicId, Picture, PicType, Title) VALUES (1, 'x', 'jpg', 'Secreta, Jane')")
+        .run("INSERT INTO Pic2Person (PicId, PersId, Name) VALUES (1, 19, 'Child, Secreta'), (1, 5, 'Hart, Jane')")
         .family(10, 16, 18, {17});
     world.setup("PersPages = 1, HideLiving = 1").item("Marriage Status|_MSTAT|r|Yes|||||Fam");
     world.head(12, "Abaj", "CollapsiTree")
         .head(16, "Vivid, Dead", "Descendant Tree")
         .head(17, "Hidden", "Ancestor Tree");
-    ASSERT_TRUE(world.publish());
+    world.talk.expect("The output folder").expect("Hidden persons in picture texts");
+    ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
     for (const auto& [name, bytes] : world.files()) {
         for (const char* secret : {"Vera", "1990", "Mar 1990", "ecret", "PersPage_13", "_13.html", "#13\"", "\"13\""}) {
             EXPECT_EQ(Count(bytes, secret), 0) << secret << " in " << name;
@@ -86,7 +97,7 @@ TEST(SiteBuild, NothingOfHiddenPersonsIsPublished)
     }
     EXPECT_THAT(world.page("PersPage_16.html"), HasSubstr("<TD> &lt;Private&gt;</TD>"));
     EXPECT_THAT(world.page("PersPage_6.html"), HasSubstr("<BR><I>1.  &lt;Private&gt;</I>\n"));
-    EXPECT_THAT(world.column("SELECT * FROM Indi2Page WHERE IndiId = 13"), IsEmpty());
+    EXPECT_THAT(world.column("SELECT * FROM Indi2Page WHERE IndiId IN (13, 19, 20)"), IsEmpty());
 }
 
 TEST(SiteBuild, DescendantsOfHiddenPersonsAreNotNamedByRelatives)
@@ -98,6 +109,40 @@ TEST(SiteBuild, DescendantsOfHiddenPersonsAreNotNamedByRelatives)
     ASSERT_TRUE(world.publish());
     for (const auto& [name, bytes] : world.files()) {
         EXPECT_EQ(Count(bytes, "Dead"), 0) << name;
+    }
+}
+
+TEST(SiteBuild, FactsThatNameHiddenPersonsAreLeftOut)
+{
+    for (const bool hides : {true, false}) {
+        SiteWorld world;
+        AddHarts(world);
+        world.item("Alias|Alias|n|Yes|||||Indi").item("To father|_FREL|r|Yes|||||Fam2Child");
+        world.setup(hides ? "PersPages = 1, HideLiving = 1" : "PersPages = 1");
+        world.build.run("UPDATE Indi SET BIRT_Place = 'told by Vera Vivid' WHERE Id = 4;"
+                        "UPDATE Indi SET DEAT_Date = '1870 (VIVID, Vera)' WHERE Id = 1;"
+                        "UPDATE Indi SET Alias = 'Vera Vivid''s Nan' WHERE Id = 2;"
+                        "UPDATE Fam SET Marriage_Place = 'at Vera Vivid''s' WHERE Id = 6;"
+                        "UPDATE Indi SET BIRT_Place = 'St. Vera, Vivid' WHERE Id = 6;"
+                        "UPDATE Fam2Child SET _FREL = 'says Vera Vivid' WHERE ChildId = 8");
+        world.head(12, "Abaj", "CollapsiTree").head(11, "Katz", "Descendant Tree").head(11, "Katz", "Ancestor Tree");
+        world.talk.expect("The output folder");
+        if (hides) {
+            world.talk.expect("Hidden persons in facts");
+        }
+        ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
+        for (const auto& [name, bytes] : world.files()) {
+            QString text = QString::fromStdString(bytes);
+            EXPECT_FALSE(hides && text.remove("St. Vera, Vivid").contains("vera", Qt::CaseInsensitive)) << name;
+        }
+        EXPECT_EQ(Count(world.page("PersPage_6.html"), "St. Vera, Vivid"), 1) << "a place";
+        EXPECT_EQ(Count(world.page("PersPage_4.html"), "told by"), hides ? 0 : 1);
+        EXPECT_EQ(Count(world.page("PersPage_4.html"), "abt 1825") + Count(world.page("PersPage_4.html"), "Abt 1825"),
+                  1);
+        if (hides) {
+            EXPECT_THAT(world.talk.shown()[1].text.toStdString(),
+                        AllOf(HasSubstr("Facts of 4 of"), HasSubstr("Persons: Sir Thomas Hart (1), Ann Reed (2), ")));
+        }
     }
 }
 
@@ -114,6 +159,58 @@ TEST(SiteBuild, ProtectedPersonsLosePrivateItemsOnlyWhenTheyAreShown)
     }
     EXPECT_THAT(world.page("PersPage_13.html"), HasSubstr("<H3>Vera Vivid&nbsp;"));
     EXPECT_THAT(world.page("PersPage_10.html"), HasSubstr("<TD> 2 Feb 1852</TD>"));
+}
+
+TEST(SiteBuild, PrivatePartsOfNamesAreLeftOutForProtectedPersons)
+{
+    SiteWorld world;
+    AddHarts(world);
+    world.build.run("UPDATE SelectedItems SET ItemValue = replace(ItemValue, char(9) || char(9) || 'Indi',"
+                    " char(9) || 'P' || char(9) || 'Indi') WHERE ItemValue LIKE 'Given%'");
+    world.build.family(9, 6, 13, {}).run("INSERT INTO AlbumTOC (PicId, Picture, PicType) VALUES (1, 'x', 'jpg')");
+    world.build.run("INSERT INTO Pic2Person (PicId, PersId, Name) VALUES (1, 13, 'Vivid, Vera'), (1, 4, 'Jack')");
+    world.setup("PersPages = 1").head(12, "Abaj", "CollapsiTree").head(11, "Katz, Lucy", "Descendant Tree");
+    world.head(13, "Vivid, Vera", "Ancestor Tree").head(13, "Vivid, Vera");
+    ASSERT_TRUE(world.publish());
+    for (const auto& [name, bytes] : world.files()) {
+        EXPECT_EQ(Count(bytes, "Vera"), 0) << name;
+    }
+    EXPECT_THAT(world.column("SELECT * FROM Indi2Page WHERE Name || Name4Index LIKE '%Vera%'"), IsEmpty());
+    EXPECT_THAT(world.page("PersPage_13.html"), HasSubstr("<H3>Vivid&nbsp;"));
+    EXPECT_THAT(world.page("PersPage_1.html"), HasSubstr("<H3>Sir Thomas Hart&nbsp;"));
+    EXPECT_THAT(world.page("PicPage1.html"), AllOf(HasSubstr(">Vivid</A>"), HasSubstr(">Jack</A>")));
+    // With nothing else to show, there is nothing to tell.
+    world.build.run("UPDATE Indi SET Surname = NULL WHERE Id = 13");
+    world.talk.expect("There are already some files");
+    ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
+    EXPECT_THAT(world.page("PersPage_13.html"), HasSubstr("<H3>&lt;Private&gt;&nbsp;"));
+}
+
+TEST(SiteBuild, IndentationOfOutlinesEnds)
+{
+    SiteWorld world;
+    for (int generation = 1; generation <= 260; ++generation) {
+        world.build.person(generation, "A", "").family(generation, generation, 0, {generation + 1});
+    }
+    world.build.person(261, "Z", "");
+    world.setup("MaxGenOnPage = 400, MaxTotalGens = 400").head(1, "A");
+    ASSERT_TRUE(world.publish());
+    const std::string page = world.page("Outline_1_1.html");
+    EXPECT_EQ(Count(page, ">" + std::string(4 * 249, '.') + "<B>250<"), 1);
+    EXPECT_EQ(Count(page, ">" + std::string(4 * 250, '.') + "<B>261<"), 1);
+}
+
+TEST(SiteBuild, OldTreeDefinitionsAreTidied)
+{
+    SiteWorld world;
+    AddHarts(world);
+    world.build.run("UPDATE TreeHeads SET IconNo = 30, TreeHeadName = 'Hart, '");
+    ASSERT_TRUE(world.publish());
+    for (const char* name : {"Outline_1_1.html", "TreeList.html", "NameIndex.html"}) {
+        EXPECT_THAT(world.page(name), HasSubstr("graphics/icons_tree_00.gif")) << name;
+    }
+    EXPECT_THAT(world.page("TreeList.html"), HasSubstr("\t\tHart\n"));
+    EXPECT_THAT(world.page("NameIndex.html"), HasSubstr("Outline of 'Hart'\""));
 }
 
 TEST(SiteBuild, WorkTablesTellWhoIsWhere)
@@ -155,15 +252,20 @@ TEST(SiteBuild, MessagesOfTheWalk)
 {
     SiteWorld world;
     AddHarts(world);
-    world.build.spouse(1, 99);
+    for (int family = 91; family <= 96; ++family) {
+        world.build.spouse(family < 93 ? 1 : 5, family);
+    }
     world.head(13, "Vivid, Vera").head(12, "Abaj", "Ancestor Tree").head(5, "Hart, Jane", "Unheard of");
-    world.talk.expect("The output folder")
-        .expect("Missing family record")
-        .expect("Family-less Ancestor")
-        .expect("Family-less Ancestor");
+    world.talk.expect("The output folder").expect("Family-less Ancestor").expect("Family-less Ancestor");
+    for (int message = 0; message < 6; ++message) {
+        world.talk.expect("Missing family record");
+    }
     ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
-    EXPECT_THAT(world.talk.shown()[1].text.toStdString(), HasSubstr("# 99\n"));
-    EXPECT_THAT(world.talk.shown()[2].text.toStdString(), HasSubstr("ancestor, Vera Vivid\nhas no families. \n"));
+    EXPECT_THAT(world.talk.shown()[1].text.toStdString(), HasSubstr("ancestor, Vera Vivid\nhas no families. \n"));
+    // Both trees miss the families of 5.
+    EXPECT_THAT(world.talk.shown()[3].text.toStdString(), HasSubstr("# 93\n"));
+    EXPECT_THAT(world.talk.shown()[7].text.toStdString(), HasSubstr("# 91\n"));
+    EXPECT_THAT(world.talk.shown()[8].text.toStdString(), HasSubstr("1 more family record"));
     EXPECT_EQ(Count(world.page("TreeList.html"), "<TR>"), 2);
     EXPECT_EQ(Count(world.page("TreeList.html"), "HREF=\"Outline_4_5.html\""), 1);
 }
@@ -179,10 +281,45 @@ TEST(SiteBuild, StoppedBuildLeavesFolderAndFileAlone)
     EXPECT_EQ(world.page("mine.txt"), "mine");
     world.head(77, "Nobody").talk.expect("Building Web Pages");
     EXPECT_FALSE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
+    world.build.person(0, "Zero", "").run("UPDATE TreeHeads SET TreeHeadId = NULL");
+    world.talk.expect("Building Web Pages");
+    EXPECT_FALSE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
     world.setup("MaxGenOnPage = 1").talk.expect("The maximum number of generations on a page");
     EXPECT_FALSE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
     EXPECT_EQ(world.files().size(), 1U);
     EXPECT_THAT(world.column("SELECT * FROM Indi2Page"), IsEmpty());
+}
+
+TEST(SiteBuild, NothingIsDeletedBeforeAllHasBeenAskedAndRead)
+{
+    SiteWorld world;
+    AddHarts(world);
+    QDir().mkpath(world.site());
+    world.write("site/index.html", "old");
+    const auto expectNoBuild = [&world](const QString& title, Button answer, const QString& what) {
+        world.talk.expect("There are already some files").expect(title, answer);
+        EXPECT_FALSE(BuildWebPages(world.file, {"Default", world.site()}, world.environment)) << what;
+        EXPECT_EQ(world.page("index.html"), "old") << what;
+    };
+    for (const char* caption : {"Loading the pictures", "Loading the list", "Copying standard files"}) {
+        world.talk.stopAt(caption);
+        expectNoBuild("Building Web Pages", Button::Ok, caption);
+        EXPECT_TRUE(world.talk.shown().back().text.endsWith("stayed as it was.")) << caption;
+    }
+    world.talk.stopAt({});
+    QDir().mkpath(world.path("application/html"));
+    world.application = ApplicationFolder(world.path("application"));
+    QFile::link(TestData("web/share/BgStyles"), world.path("application/BgStyles"));
+    const QStringList templates = QDir(TestData("web/share/html")).entryList(QDir::Files);
+    for (const QString& missing : templates) {
+        for (const QString& name : templates) {
+            QFile::link(TestData("web/share/html/" + name), world.path("application/html/" + name));
+        }
+        QFile::remove(world.path("application/html/" + missing));
+        expectNoBuild("Building Web Pages", Button::Ok, missing);
+    }
+    world.head(13, "Vivid, Vera");
+    expectNoBuild("Family-less Ancestor", Button::Cancel, "asked");
 }
 
 TEST(SiteBuild, CanBeStoppedOnceTheFolderIsPrepared)
@@ -193,12 +330,12 @@ TEST(SiteBuild, CanBeStoppedOnceTheFolderIsPrepared)
     ASSERT_TRUE(world.publish());
     const QStringList before = world.column("SELECT * FROM Indi2Page");
     world.build.run("UPDATE Indi SET Surname = 'Changed'");
-    for (const char* caption : {"Copying standard files", "Outline for: Hart, Sir Thomas",
+    for (const char* caption : {"Building the family trees", "Outline for: Hart, Sir Thomas",
                                 "Building index of names and", "Processing picture:", "Writing the list of trees"}) {
         world.talk.stopAt(caption);
         world.talk.expect("There are already some files").expect("Building Web Pages");
         EXPECT_FALSE(BuildWebPages(world.file, {"Default", world.site()}, world.environment)) << caption;
-        EXPECT_TRUE(world.talk.shown().back().text.startsWith("Building your web pages was stopped.")) << caption;
+        EXPECT_TRUE(world.talk.shown().back().text.endsWith("build them again before you use them.")) << caption;
         EXPECT_EQ(world.page("index.html"), "") << "nobody takes it for a finished site";
         EXPECT_EQ(world.column("SELECT * FROM Indi2Page"), before);
         world.write("site/left.html", "rest");

@@ -6,6 +6,7 @@
 //  - adds the style sheets of the site to the page,
 //  - carries the path of pages, the title and the tree icon of a page to the frame frmTopLeft,
 //  - sets the lines of an outline so that they wrap under their own text,
+//  - brings the head of a tree of rectangles into view,
 //  - offers the whole site to a visitor who opened a single page,
 //  - fits the frameset to the screen.
 
@@ -79,8 +80,9 @@ function showTitle(text) {
     var alone = window.top === window;
     var isLocalPage = /^[A-Za-z]\w*\.html(#\w*)?$/;
 
-    if (/^Outline_/.test(page)) {
-        document.documentElement.className = "outline";
+    var display = { Outline: "outline", DescTree: "charted", AncTree: "charted" }[page.replace(/_.*$/, "")];
+    if (display) {
+        document.documentElement.className = display;
     }
 
     function setOutline() {
@@ -97,6 +99,14 @@ function showTitle(text) {
             line.className = "line";
             line.style.setProperty("--dots", dots);
         });
+    }
+
+    // The head stands at the left, halfway down.
+    function showHead() {
+        var head = document.getElementsByName(/\d*(?=\.html$)/.exec(page)[0])[0];
+        if (head && !location.hash) {
+            head.closest(".cell").scrollIntoView({ block: "center", inline: "start" });
+        }
     }
 
     function offerSite() {
@@ -138,11 +148,14 @@ function showTitle(text) {
             window.addEventListener("hashchange", openChosenPage);
             return;
         }
-        if (document.documentElement.className === "outline") {
+        if (display === "outline") {
             setOutline();
         }
         if (alone) {
             offerSite();
+        }
+        if (display === "charted") {
+            showHead();
         }
     });
 })();

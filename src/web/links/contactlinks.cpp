@@ -12,9 +12,8 @@ namespace
 
 void AppendMailLink(std::string& page, std::string_view address, std::string_view text)
 {
-    page.append("<A HREF=\"mailto:");
-    AppendMailAddress(page, address);
-    page.append("\"><IMG SRC=\"graphics/email.gif\" ALT=\"").append(text);
+    BeginMailLink(page, address);
+    page.append("<IMG SRC=\"graphics/email.gif\" ALT=\"").append(text);
     page.append("\" ALIGN=\"Absmiddle\" VSPACE=\"0\" BORDER=\"0\"></A>");
 }
 
@@ -23,6 +22,20 @@ void AppendMailLink(std::string& page, std::string_view address, std::string_vie
 std::optional<Contact> PublishedContact(const SiteRun& run, TreePosition person)
 {
     return run.privacy.isLeftOut(person) ? std::nullopt : run.texts.contact(person);
+}
+
+void BeginMailLink(std::string& page, std::string_view address)
+{
+    page.append("<A HREF=\"mailto:");
+    AppendMailAddress(page, address);
+    page.append("\">");
+}
+
+void BeginWebLink(std::string& page, std::string_view address)
+{
+    page.append("<A HREF=\"");
+    AppendWebAddress(page, address);
+    page.append("\" TARGET=\"_blank\">");
 }
 
 void AppendContactLinks(std::string& page, const SiteRun& run, TreePosition person)
@@ -38,9 +51,8 @@ void AppendContactLinks(std::string& page, const SiteRun& run, TreePosition pers
         AppendMailLink(page, contact->email1.empty() ? contact->email2 : contact->email1, "Send Email to This Person");
     }
     if (!contact->webPage.empty()) {
-        page.append("<A HREF=\"");
-        AppendWebAddress(page, contact->webPage);
-        page.append("\" TARGET=\"_blank\"><IMG SRC=\"graphics/www.gif\" ALT=\"Go to This Person's Web Page\""
+        BeginWebLink(page, contact->webPage);
+        page.append("<IMG SRC=\"graphics/www.gif\" ALT=\"Go to This Person's Web Page\""
                     " ALIGN=\"Absmiddle\" VSPACE=\"0\" BORDER=\"0\"></A>");
     }
 }

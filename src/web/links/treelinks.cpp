@@ -3,6 +3,7 @@
 #include "web/links/treelinks.h"
 
 #include "web/html/escape.h"
+#include "web/setup/treeediting.h"
 
 #include <array>
 #include <charconv>
@@ -15,12 +16,12 @@ namespace
 {
 
 /// What follows the address in a link to an entry; the same for all entries of a tree.
-std::string LinkEnd(const TreeDefinition& definition)
+std::string LinkEnd(const PublishedTree& tree)
 {
     std::string end("\" TARGET=\"frmCenter\" TITLE=\"This person's entry in ");
-    end.append(DisplayName(DisplayOf(definition)).toStdString()).append(" of '");
-    AppendText(end, TidyHeadName(definition));
-    end.append("'\"><IMG SRC=\"").append(TreeIcon(definition));
+    end.append(DisplayName(tree.display).toStdString()).append(" of '");
+    AppendText(end, tree.headName);
+    end.append("'\"><IMG SRC=\"").append(tree.icon);
     return end + "\" ALIGN=\"ABSMIDDLE\" VSPACE=\"0\" BORDER=\"0\"></A>";
 }
 
@@ -45,16 +46,20 @@ TreeDisplay DisplayOf(const TreeDefinition& definition)
     return FindDisplay(definition.display).value_or(TreeDisplay::Outline);
 }
 
-PublishedTree MakePublishedTree(const TreeDefinition& definition, TreeWalk walk)
+PublishedTree MakePublishedTree(const SiteRun& run, const TreeDefinition& definition, TreeWalk walk)
 {
     const TreeDisplay display = DisplayOf(definition);
-    const std::string prefix(FilePrefix(display));
-    return {definition,
-            display,
-            TidyHeadName(definition),
-            prefix + '_' + std::to_string(definition.number) + '_',
-            LinkEnd(definition),
-            std::move(walk)};
+    const TreePosition head = walk.entries().front().person;
+    PublishedTree tree{
+        .definition = definition,
+        .display = display,
+        .headName = run.names.isWithheldFrom(head) ? run.names.indexName(head) : TidyHeadName(definition),
+        .pageNameStart = std::string(FilePrefix(display)) + '_' + std::to_string(definition.number) + '_',
+        .icon = TreeIconName(definition.icon, run.application).toStdString(),
+        .linkEnd = {},
+        .walk = std::move(walk)};
+    tree.linkEnd = LinkEnd(tree);
+    return tree;
 }
 
 std::string TreePageName(const PublishedTree& tree, int pageOwnerId)
@@ -67,13 +72,6 @@ std::string TreePageName(const PublishedTree& tree, int pageOwnerId)
 std::string FirstPageName(const PublishedTree& tree, const FamilyTree& family)
 {
     return TreePageName(tree, family.individualId(tree.walk.entries().front().person));
-}
-
-std::string TreeIcon(const TreeDefinition& tree)
-{
-    constexpr int twoDigits = 10;
-    const int number = std::max(tree.icon - 1, 0);
-    return std::string("graphics/icons_tree_") + (number < twoDigits ? "0" : "") + std::to_string(number) + ".gif";
 }
 
 std::string PersonalPageName(int individualId)

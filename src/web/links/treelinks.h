@@ -13,16 +13,13 @@ namespace stemwright
 TreeDisplay DisplayOf(const TreeDefinition& definition);
 
 /// A tree that is on the site from now on.
-PublishedTree MakePublishedTree(const TreeDefinition& definition, TreeWalk walk);
+PublishedTree MakePublishedTree(const SiteRun& run, const TreeDefinition& definition, TreeWalk walk);
 
 /// "Outline_3_17.html": the page that this individual owns.
 std::string TreePageName(const PublishedTree& tree, int pageOwnerId);
 
 /// The tree's first page.
 std::string FirstPageName(const PublishedTree& tree, const FamilyTree& family);
-
-/// "graphics/icons_tree_09.gif" for a tree whose icon is 10.
-std::string TreeIcon(const TreeDefinition& tree);
 
 /// "PersPage_42.html"
 std::string PersonalPageName(int individualId);

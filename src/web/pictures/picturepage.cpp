@@ -71,11 +71,11 @@ bool PicturePageWriter::write(const PublishedPicture& picture, const PictureFile
     const std::vector<ShownMark> marks = shownMarks(all);
     std::vector<TreePosition> persons;
     for (const PersonMark& mark : all) {
-        if (const std::optional<TreePosition> person = m_run.tree.findIndividual(mark.personId)) {
+        if (const std::optional<TreePosition> person = MarkedIndividual(m_run.tree, mark.personId)) {
             persons.push_back(*person);
         }
     }
-    const bool keepsDescription = !m_run.pictures.hiddenNames().isAnyNamedIn(files.description, m_run, persons);
+    const bool keepsDescription = !m_run.hiddenNames.isAnyNamedIn(files.description, m_run, persons);
     const std::string title = Html(picture.title.empty() ? "<No title>" : std::string_view(picture.title));
     const bool isRectangle = files.pointer == PointerTool::Rectangle;
 
@@ -102,21 +102,32 @@ std::vector<PicturePageWriter::ShownMark> PicturePageWriter::shownMarks(const st
         if (!isShown(mark)) {
             continue;
         }
-        const std::optional<TreePosition> person = m_run.tree.findIndividual(mark.personId);
+        const std::optional<TreePosition> person = MarkedIndividual(m_run.tree, mark.personId);
         const bool linked = m_run.settings.personalPages && person && m_run.isOnSite(*person);
-        shown.push_back({Html(TidyName(mark.name.toStdString())), linked ? mark.personId : 0, mark.place});
+        shown.push_back({Html(nameOf(mark, person)), linked ? mark.personId : 0, mark.place});
     }
     return shown;
+}
+
+/// The name that was stored with the mark, unless it tells more than the site may. The tree may be another one by now,
+/// and the name that of a hidden person who had the number then.
+std::string PicturePageWriter::nameOf(const PersonMark& mark, std::optional<TreePosition> person) const
+{
+    const std::string stored = mark.name.toStdString();
+    if (person && (m_run.names.isWithheldFrom(*person) || m_run.hiddenNames.isAnyNamedIn(stored))) {
+        return m_run.names.indexName(*person);
+    }
+    return TidyName(stored);
 }
 
 /// A mark says who somebody is. The name of an individual counts as the individual, wherever he or she is in the tree;
 /// a typed name, or one whose individual is no longer in the tree, by what it says.
 bool PicturePageWriter::isShown(const PersonMark& mark) const
 {
-    if (const std::optional<TreePosition> person = m_run.tree.findIndividual(mark.personId)) {
+    if (const std::optional<TreePosition> person = MarkedIndividual(m_run.tree, mark.personId)) {
         return m_run.mayBeNamed(*person);
     }
-    return !m_run.pictures.hiddenNames().isAnyNamedIn(mark.name.toStdString());
+    return !m_run.hiddenNames.isAnyNamedIn(mark.name.toStdString());
 }
 
 void PicturePageWriter::writeNamesLeft(const std::vector<ShownMark>& marks, PointerTool pointer)

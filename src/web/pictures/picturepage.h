@@ -33,6 +33,7 @@ private:
     };
 
     std::vector<ShownMark> shownMarks(const std::vector<PersonMark>& marks) const;
+    std::string nameOf(const PersonMark& mark, std::optional<TreePosition> person) const;
     bool isShown(const PersonMark& mark) const;
     void writeNamesLeft(const std::vector<ShownMark>& marks, PointerTool pointer);
     void writeNamesAbove(const std::vector<ShownMark>& marks, PointerTool pointer);

@@ -40,11 +40,14 @@ void AppendWords(std::string& name, std::string_view text, std::string_view sepa
 
 } // namespace
 
-NameParts::NameParts(const SiteTexts& texts, std::size_t individuals) : m_texts(texts)
+NameParts::NameParts(const SiteTexts& texts, const Privacy& privacy, std::size_t individuals)
+    : m_texts(texts), m_privacy(privacy)
 {
     for (const PublishedItem& item : texts.items()) {
-        if (item.inTree && IsPartOfName(item)) {
-            m_shown[item.value] = true;
+        if (IsPartOfName(item)) {
+            m_shown[item.value] |= item.inTree;
+            m_private[item.value] |= item.isPrivate;
+            m_anyPrivate |= item.isPrivate;
         }
     }
     if (std::find(m_shown.begin(), m_shown.end(), true) == m_shown.end()) {
@@ -75,15 +78,21 @@ std::string NameParts::indexName(TreePosition individual) const
                                 {individualcolumn::title, ", "}}});
 }
 
+bool NameParts::isWithheldFrom(TreePosition individual) const
+{
+    return m_anyPrivate && m_privacy.isProtected(individual);
+}
+
 std::string NameParts::joined(TreePosition individual, const std::array<Part, partCount>& parts) const
 {
+    const bool withholds = isWithheldFrom(individual);
     std::string name;
     for (const Part& part : parts) {
-        if (m_shown[part.column]) {
+        if (m_shown[part.column] && !(withholds && m_private[part.column])) {
             AppendWords(name, m_texts.individual(individual, part.column).value_or(""), part.separator);
         }
     }
-    return name.empty() ? std::string(unknownPerson) : name;
+    return !name.empty() ? name : std::string(withholds ? privatePerson : unknownPerson);
 }
 
 bool IsPartOfName(const PublishedItem& item)
@@ -112,7 +121,10 @@ std::string Collapsed(std::string_view utf8)
 std::string TidyName(std::string_view utf8)
 {
     constexpr std::string_view afterSurname = ", ";
-    const std::string name = Collapsed(utf8);
+    std::string name = Collapsed(utf8);
+    if (name.ends_with(',')) {
+        name.pop_back();
+    }
     return name.starts_with(afterSurname) ? name.substr(afterSurname.size()) : name;
 }
 

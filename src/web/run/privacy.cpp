@@ -27,8 +27,19 @@ Privacy::Privacy(const FamilyTree& tree, const SiteTexts& texts, ProtectedPerson
                                texts.individual(individual, individualcolumn::deathDate),
                                texts.individual(individual, individualcolumn::deathPlace), maxPrivacyAge, currentYear);
     }
-    if (m_hides) {
-        hideDescendants(tree);
+    if (!m_hides) {
+        return;
+    }
+    hideDescendants(tree);
+    m_leftOut = m_protected;
+    for (TreePosition individual = 0; individual < tree.individuals(); ++individual) {
+        if (m_hiddenBranch[individual] && !m_protected[individual]) {
+            const auto has = [&](std::size_t column) { return texts.individual(individual, column).has_value(); };
+            const auto birth = texts.individual(individual, individualcolumn::birthDate).value_or("");
+            // A year of birth that does not protect is one from long ago.
+            m_leftOut[individual] =
+                !has(individualcolumn::deathDate) && !has(individualcolumn::deathPlace) && !YearAtEnd(birth);
+        }
     }
 }
 

@@ -25,11 +25,12 @@ public:
 
     bool isProtected(TreePosition individual) const { return m_protected[individual]; }
 
-    /// Whether the walk leaves the person out, with spouse and children or with all descendants.
-    bool isLeftOut(TreePosition individual) const { return m_hides && m_protected[individual]; }
+    /// Whether the walk leaves the person out, with spouse and children or with all descendants: a protected person, or
+    /// a descendant of one of whom nothing tells that he or she is not alive.
+    bool isLeftOut(TreePosition individual) const { return m_hides && m_leftOut[individual]; }
 
-    /// Whether someone who is on no page of the site must not be named on a relative's page either: a person who is
-    /// left out, or a descendant of one.
+    /// Whether someone who is on no page of the site must not be named on a relative's page either: a protected person,
+    /// or any descendant of one.
     bool isHiddenBranch(TreePosition individual) const { return m_hides && m_hiddenBranch[individual]; }
 
 private:
@@ -37,7 +38,9 @@ private:
 
     bool m_hides;
     std::vector<bool> m_protected;
+    /// Known only where protected persons are hidden.
     std::vector<bool> m_hiddenBranch;
+    std::vector<bool> m_leftOut;
 };
 
 } // namespace stemwright

@@ -36,6 +36,11 @@ bool IsPublished(const std::vector<TreePosition>& persons, const SiteRun& run)
 
 } // namespace
 
+std::optional<TreePosition> MarkedIndividual(const FamilyTree& tree, int personId)
+{
+    return personId == 0 ? std::nullopt : tree.findIndividual(personId);
+}
+
 AlbumPictures AlbumPictures::load(Connection& connection, const FamilyTree& tree)
 {
     AlbumPictures album;
@@ -49,11 +54,10 @@ AlbumPictures AlbumPictures::load(Connection& connection, const FamilyTree& tree
         album.pictures.push_back({pictures.integer(0), std::string(pictures.utf8(1)), std::string(pictures.utf8(2)),
                                   std::string(pictures.utf8(3))});
     }
-    Statement marks =
-        connection.prepare(QStringLiteral("SELECT PicId, PersId FROM Pic2Person WHERE PersId > 0 ORDER BY rowid"));
+    Statement marks = connection.prepare(QStringLiteral("SELECT PicId, PersId FROM Pic2Person ORDER BY rowid"));
     while (marks.step()) {
         const auto place = places.find(marks.integer(0));
-        const std::optional<TreePosition> person = tree.findIndividual(marks.integer(1));
+        const std::optional<TreePosition> person = MarkedIndividual(tree, marks.integer(1));
         if (place != places.end() && person) {
             album.appearances.push_back({place->second, *person});
         }
@@ -68,7 +72,6 @@ PublishedPictures::PublishedPictures(AlbumPictures album, const SiteRun& run)
     if (album.pictures.empty()) {
         return;
     }
-    m_hiddenNames = HiddenNames(run);
     std::vector<TreeLinks::Link> links;
     std::span<const Appearance> rest(album.appearances);
     for (std::uint32_t number = 0; number < album.pictures.size(); ++number) {
@@ -88,7 +91,7 @@ PublishedPictures::PublishedPictures(AlbumPictures album, const SiteRun& run)
         }
         PublishedPicture& picture = m_pictures.emplace_back(std::move(album.pictures[number]));
         for (std::string* text : {&picture.title, &picture.place}) {
-            if (m_hiddenNames.isAnyNamedIn(*text, run, persons)) {
+            if (run.hiddenNames.isAnyNamedIn(*text, run, persons)) {
                 text->clear();
                 picture.lostText = true;
             }

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "index/familytree.h"
-#include "web/run/hiddennames.h"
 
 #include <span>
 #include <string>
@@ -15,6 +14,10 @@ namespace stemwright
 {
 
 struct SiteRun;
+
+/// The individual to whom a mark belongs. No value for a name that was typed, whose number is 0 even if the tree has an
+/// individual 0, and for one whose individual is no longer in the tree.
+std::optional<TreePosition> MarkedIndividual(const FamilyTree& tree, int personId);
 
 /// A picture as lists show it; texts are UTF-8.
 struct PublishedPicture {
@@ -65,13 +68,9 @@ public:
         return m_pictures.empty() ? std::span<const std::uint32_t>() : m_ofPersons.of(person);
     }
 
-    /// For further texts of the pictures.
-    const HiddenNames& hiddenNames() const { return m_hiddenNames; }
-
 private:
     std::vector<PublishedPicture> m_pictures;
     TreeLinks m_ofPersons;
-    HiddenNames m_hiddenNames;
 };
 
 } // namespace stemwright

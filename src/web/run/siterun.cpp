@@ -27,4 +27,10 @@ bool SiteRun::mayBeNamed(TreePosition person) const
     return isOnSite(person) ? !privacy.isLeftOut(person) : !privacy.isHiddenBranch(person);
 }
 
+bool SiteRun::mayShow(const PublishedItem& item, TreePosition person, TreePosition partner) const
+{
+    const auto isProtected = [this](TreePosition each) { return each != nowhere && privacy.isProtected(each); };
+    return !item.isPrivate || !(isProtected(person) || (item.table == ItemTable::Family && isProtected(partner)));
+}
+
 } // namespace stemwright

@@ -4,6 +4,7 @@
 
 #include "base/environment.h"
 #include "index/familytree.h"
+#include "web/run/hiddennames.h"
 #include "web/run/pageassignment.h"
 #include "web/run/personnames.h"
 #include "web/run/privacy.h"
@@ -33,10 +34,12 @@ struct RunSettings {
 struct PublishedTree {
     TreeDefinition definition;
     TreeDisplay display = TreeDisplay::Outline;
-    /// The head's name as the setup has it, UTF-8.
+    /// The head's name as the setup has it, as far as it may be told; UTF-8.
     std::string headName;
     /// "Outline_3_": what stands before the owner's number in a page's name.
     std::string pageNameStart;
+    /// "graphics/icons_tree_09.gif"
+    std::string icon;
     /// HTML: what follows the address in an icon link to an entry.
     std::string linkEnd;
     TreeWalk walk;
@@ -52,9 +55,10 @@ struct SiteRun {
     const ApplicationFolder& application;
     /// The output folder's full path.
     QString folder;
-    std::vector<PublishedTree> trees;
+    std::vector<PublishedTree> trees{};
     /// Known once the trees are.
-    PublishedPictures pictures;
+    HiddenNames hiddenNames{};
+    PublishedPictures pictures{};
 
     QString file(std::string_view name) const
     {
@@ -66,6 +70,10 @@ struct SiteRun {
 
     /// Whether a page of somebody else may name the person.
     bool mayBeNamed(TreePosition person) const;
+
+    /// Whether the setup lets an item of the person be shown: a private one is hidden for protected persons, one of a
+    /// family if either of the couple is protected.
+    bool mayShow(const PublishedItem& item, TreePosition person, TreePosition partner = nowhere) const;
 };
 
 } // namespace stemwright

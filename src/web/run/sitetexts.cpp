@@ -13,7 +13,7 @@ RunColumns AlwaysRead()
     return {ColumnList(TableNamed(u"Indi"),
                        {QStringLiteral("Title"), QStringLiteral("GivenName"), QStringLiteral("Surname"),
                         QStringLiteral("Suffix"), QStringLiteral("Sex"), QStringLiteral("BIRT_Date"),
-                        QStringLiteral("DEAT_Date"), QStringLiteral("DEAT_Place")}),
+                        QStringLiteral("DEAT_Date"), QStringLiteral("DEAT_Place"), QStringLiteral("Alias")}),
             ColumnList(TableNamed(u"Fam"), {QStringLiteral("_MSTAT")}),
             ColumnList(TableNamed(u"Fam2Child"), {QStringLiteral("_FREL"), QStringLiteral("_MREL")})};
 }
@@ -60,7 +60,7 @@ std::optional<std::string_view> SiteTexts::childInFamily(TreePosition family, Tr
                                                          std::size_t column) const
 {
     const auto row = m_childRows.find(ChildKey(family, child));
-    return row == m_childRows.end() ? std::nullopt : m_children.cell(row->second, column);
+    return row == m_childRows.end() ? std::nullopt : unlessWithheld(m_children.cell(row->second, column));
 }
 
 std::optional<Contact> SiteTexts::contact(TreePosition individual) const

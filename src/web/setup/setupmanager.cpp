@@ -23,11 +23,14 @@ const QRegularExpression& Separators()
 }
 
 /// The name of a setup is also the last part of its output folder, whose files are replaced when pages are built: it
-/// must not lead anywhere else.
+/// must not lead anywhere else, nor to the images of another site.
 void RequireNameOfFolder(const QString& name)
 {
-    for (const QString& part : name.split(Separators())) {
-        if (part.trimmed().isEmpty() || part == QStringLiteral(".") || part == QStringLiteral("..")) {
+    const QStringList parts = name.split(Separators());
+    for (qsizetype place = 0; place < parts.size(); ++place) {
+        const QString part = parts[place].trimmed();
+        const bool isInSite = place > 0 && part.compare(u"graphics", Qt::CaseInsensitive) == 0;
+        if (part.isEmpty() || part == QStringLiteral(".") || part == QStringLiteral("..") || isInSite) {
             throw Error(
                 QStringLiteral("\"%1\" cannot be the name of a setup, because it is also the name of its folder.")
                     .arg(name));

@@ -13,11 +13,25 @@
 namespace stemwright
 {
 
+namespace
+{
+
+QString IconName(int icon)
+{
+    return QStringLiteral("graphics/icons_tree_%1.gif").arg(icon - 1, 2, 10, QChar(u'0'));
+}
+
+} // namespace
+
 std::optional<QString> TreeIconFile(int icon, const ApplicationFolder& application)
 {
-    const QString file = QStringLiteral("graphics/icons_tree_%1.gif").arg(icon - 1, 2, 10, QChar(u'0'));
-    const QString path = application.file(file);
+    const QString path = application.file(IconName(icon));
     return icon >= 1 && QFileInfo::exists(path) ? std::optional(path) : std::nullopt;
+}
+
+QString TreeIconName(int icon, const ApplicationFolder& application)
+{
+    return IconName(TreeIconFile(icon, application) ? icon : 1);
 }
 
 TreeEditing::TreeEditing(Connection& connection, Environment& environment, QString setupName)

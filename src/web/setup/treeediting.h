@@ -19,6 +19,10 @@ namespace stemwright
 /// The image of a tree icon in the application's folder; no value for a number, counted from 1, that has none.
 std::optional<QString> TreeIconFile(int icon, const ApplicationFolder& application);
 
+/// The name of that image below the application's folder and below a site: "graphics/icons_tree_09.gif" for icon 10.
+/// Icon 1 stands in for a number that has none, as family files of earlier releases may have it.
+QString TreeIconName(int icon, const ApplicationFolder& application);
+
 class TreeEditing
 {
 public:

@@ -15,10 +15,6 @@ namespace stemwright
 namespace
 {
 
-/// The indentation grows with the generation up to here only; a line of descent of thousands would otherwise be made of
-/// hardly anything else.
-constexpr int deepestIndentation = 250;
-
 /// In "&nbsp;", so that a child's name starts under its parent's.
 int Indentation(int generation)
 {
@@ -71,7 +67,7 @@ private:
         std::string headName;
         AppendScriptText(headName, EntryName(m_run, entryAt(0)), ScriptQuotes::Escaped);
         page().append(FillTemplate(ReadTemplate(m_run.application.file(QStringLiteral("html/ctreetop.html"))),
-                                   {{"$TreeHeadName", headName}, {"$TreeIconFile", TreeIcon(m_tree.definition)}}));
+                                   {{"$TreeHeadName", headName}, {"$TreeIconFile", m_tree.icon}}));
     }
 
     /// Ends the blocks of individuals whose families are finished, down to the one that the next entry belongs to.

@@ -54,14 +54,7 @@ Subject SubjectOf(const SiteRun& run, const TreeWalk& walk, const TreeEntry& ent
 
 bool IsShown(const SiteRun& run, const Subject& subject, const PublishedItem& item)
 {
-    if (!item.inTree || IsPartOfName(item)) {
-        return false;
-    }
-    const auto isProtected = [&run](TreePosition person) {
-        return person != nowhere && run.privacy.isProtected(person);
-    };
-    return !item.isPrivate ||
-           !(isProtected(subject.person) || (item.table == ItemTable::Family && isProtected(subject.partner)));
+    return item.inTree && !IsPartOfName(item) && run.mayShow(item, subject.person, subject.partner);
 }
 
 /// The text of an item's column for the subject, empty when there is none.

@@ -26,6 +26,10 @@ std::string SpouseTitle(const SiteRun& run, const TreeWalk& walk, const TreeEntr
 /// Appends " <A HREF=...>(Duplicate: ...)</A>", which leads to the main entry of the same person.
 void AppendDuplicateLink(std::string& page, const SiteRun& run, const PublishedTree& tree, const TreeEntry& entry);
 
+/// The indentation of a line grows with its level up to here only; a line of descent of thousands would otherwise be
+/// made of hardly anything else.
+inline constexpr int deepestIndentation = 250;
+
 /// Appends `count` times `text`.
 void AppendRepeated(std::string& page, int count, std::string_view text);
 

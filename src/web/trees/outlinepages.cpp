@@ -93,7 +93,7 @@ private:
     void appendDots(const TreeEntry& entry)
     {
         const int level = entry.generation - entryAt(m_pages[m_open - 1].owner).generation;
-        AppendRepeated(page(), level * dotsPerLevel, ".");
+        AppendRepeated(page(), std::min(level, deepestIndentation) * dotsPerLevel, ".");
     }
 
     void writeIndividual(EntryNumber number)

@@ -67,7 +67,7 @@ void WriteTreePageHead(PageFile& file, const SiteRun& run, const PublishedTree& 
     AppendScriptText(bytes, name, ScriptQuotes::Concatenated);
     file.line("\";");
     bytes.append("\t\t\tparent.frames[\"frmTopLeft\"].document.getElementById(\"Icon\").innerHTML = \"<IMG SRC='");
-    bytes.append(TreeIcon(tree.definition));
+    bytes.append(tree.icon);
     file.line("'>\";");
     file.line("\t\t}");
     file.line("\t}");
