@@ -162,40 +162,48 @@ Charset SingleByteCharset(const QString& declared, const ByteScan& scan)
     return scan.hasHighBytes ? Charset::Windows1252 : Charset::Utf8;
 }
 
-void RefuseForeignFile(const QByteArray& head)
+/// The encoding that a byte-order mark tells, or the NUL bytes of UTF-16.
+std::optional<FileEncoding> MarkedEncoding(const QByteArray& head)
 {
+    if (head.startsWith("\xEF\xBB\xBF")) {
+        return FileEncoding{Charset::Utf8, 3, {}};
+    }
+    if (head.startsWith("\xFF\xFE")) {
+        return FileEncoding{Charset::Utf16LittleEndian, 2, {}};
+    }
+    if (head.startsWith("\xFE\xFF")) {
+        return FileEncoding{Charset::Utf16BigEndian, 2, {}};
+    }
+    if (const std::optional<Charset> wide = WideCharset(head)) {
+        return FileEncoding{*wide, 0, {}};
+    }
+    return std::nullopt;
+}
+
+/// The first bytes of a file, which must be text.
+QByteArray ReadHead(QIODevice& file)
+{
+    file.seek(0);
+    QByteArray head = file.read(headSize);
     if (head.isEmpty()) {
-        throw Error(gedcommessages::EmptyFile());
+        throw Error(file.size() > 0 ? gedcommessages::CannotRead(file.errorString()) : gedcommessages::EmptyFile());
     }
     if (head.startsWith("PK\x03\x04")) {
         throw Error(gedcommessages::ZipArchive());
     }
+    if (!MarkedEncoding(head) && head.count('\0') > head.size() / 20) {
+        throw Error(gedcommessages::BinaryFile());
+    }
+    return head;
 }
 
 } // namespace
 
 FileEncoding DetectEncoding(QIODevice& file)
 {
-    file.seek(0);
-    QByteArray head = file.read(headSize);
-    if (head.isEmpty() && file.size() > 0) {
-        throw Error(gedcommessages::CannotRead(file.errorString()));
-    }
-    RefuseForeignFile(head);
-    if (head.startsWith("\xEF\xBB\xBF")) {
-        return {Charset::Utf8, 3, {}};
-    }
-    if (head.startsWith("\xFF\xFE")) {
-        return {Charset::Utf16LittleEndian, 2, {}};
-    }
-    if (head.startsWith("\xFE\xFF")) {
-        return {Charset::Utf16BigEndian, 2, {}};
-    }
-    if (const std::optional<Charset> wide = WideCharset(head)) {
-        return {*wide, 0, {}};
-    }
-    if (head.count('\0') > head.size() / 20) {
-        throw Error(gedcommessages::BinaryFile());
+    const QByteArray head = ReadHead(file);
+    if (const std::optional<FileEncoding> marked = MarkedEncoding(head)) {
+        return *marked;
     }
     const QString declared = DeclaredCharset(head);
     if (declared.startsWith(u"UTF-8", Qt::CaseInsensitive) || declared.startsWith(u"UTF8", Qt::CaseInsensitive)) {
@@ -206,6 +214,11 @@ FileEncoding DetectEncoding(QIODevice& file)
         return {Charset::Utf8, 0, declared};
     }
     return {SingleByteCharset(declared, scan), 0, declared};
+}
+
+void RequireText(QIODevice& file)
+{
+    ReadHead(file);
 }
 
 } // namespace stemwright

@@ -25,4 +25,7 @@ struct FileEncoding {
 /// has letters that only this one has, and code page 437 otherwise.
 FileEncoding DetectEncoding(QIODevice& file);
 
+/// Refuses, by the first bytes of a file that is open and can be positioned, what DetectEncoding() would refuse.
+void RequireText(QIODevice& file);
+
 } // namespace stemwright

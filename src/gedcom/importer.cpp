@@ -9,6 +9,7 @@
 #include "gedcom/individualrecord.h"
 #include "gedcom/messages.h"
 #include "gedcom/schemarecord.h"
+#include "index/fullname.h"
 
 #include <QtCore/QFileInfo>
 
@@ -179,7 +180,12 @@ std::optional<Message> ImportInOneAction(Connection& connection, const QString& 
     const std::unique_ptr<Progress> progress =
         talk.progress(gedcommessages::progressTitle, gedcommessages::progressCaption);
     Transaction transaction(connection);
+    const bool hadIndividuals = HasIndividuals(connection);
     std::optional<Message> duplicate = RebuildTree(file, connection, *progress, report);
+    if (hadIndividuals && report.individuals == 0 && report.skippedIndividuals > 0) {
+        const LossNote& first = report.of(Loss::SkippedRecord).notes.front();
+        throw Error(gedcommessages::NobodyTaken(report.skippedIndividuals, first.line, first.subject));
+    }
     transaction.commit();
     report.outcome = duplicate ? ImportOutcome::StoppedAtDuplicate : ImportOutcome::Completed;
     return duplicate;
@@ -195,6 +201,7 @@ void OpenGedcomFile(QFile& file)
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         throw Error(gedcommessages::CannotOpen(file.fileName(), file.errorString()));
     }
+    RequireText(file);
 }
 
 std::optional<Message> RebuildTree(QIODevice& input, Connection& connection, Progress& progress, ImportReport& report)

@@ -164,13 +164,19 @@ TEST(Importer, LeavesTheOldTreeWhenItFails)
         {"PK\x03\x04", "This is a ZIP archive"},
         {"\xEF\xBB\xBFjunk", "This is not a GEDCOM file: no record"},
         {QByteArray(5000, '\0'), "This is not a GEDCOM file but binary"},
-        {ManyEvents("INDI", 51), "The GEDCOM file has more kinds of events"}};
+        {ManyEvents("INDI", 51), "The GEDCOM file has more kinds of events"},
+        {"0 HEAD\n0 @X1@ INDI\n0 INDI\n0 @F1@ FAM\n0 TRLR\n",
+         "None of the 2 individuals in the GEDCOM file can be imported, because their identifiers are not such numbers "
+         "as "
+         "in @I12@ (line 2: @X1@)"}};
     for (const auto& [content, reason] : cases) {
         world.talk.expect(reason);
         EXPECT_FALSE(ImportGedcom(connection, world.write("bad.ged", content), world.environment, report));
         EXPECT_EQ(report.outcome, ImportOutcome::Failed);
         EXPECT_EQ(DumpTree(connection), before);
     }
+    connection.execute("DELETE FROM Indi");
+    EXPECT_TRUE(ImportGedcom(connection, world.path("bad.ged"), world.environment, report)) << "nobody is lost";
     world.talk.expect(world.path({}) + " is not a file");
     EXPECT_FALSE(ImportGedcom(connection, world.path({}), world.environment, report));
 }
