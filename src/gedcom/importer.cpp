@@ -8,6 +8,7 @@
 #include "gedcom/importprogress.h"
 #include "gedcom/individualrecord.h"
 #include "gedcom/messages.h"
+#include "gedcom/passedrecord.h"
 #include "gedcom/schemarecord.h"
 #include "index/fullname.h"
 
@@ -28,7 +29,7 @@ std::vector<const TableDefinition*> TreeTables()
     return tables;
 }
 
-enum class RecordKind { Individual, Family, Schema, Other };
+enum class RecordKind { Individual, Family, Schema, Trailer, Other };
 
 RecordKind KindOf(std::string_view tag)
 {
@@ -40,6 +41,8 @@ RecordKind KindOf(std::string_view tag)
     case PackTag("HEAD"):
     case PackTag("_SCHEMA"):
         return RecordKind::Schema;
+    case PackTag("TRLR"):
+        return RecordKind::Trailer;
     default:
         return RecordKind::Other;
     }
@@ -59,6 +62,7 @@ public:
 private:
     void beginRecord(const GedcomLine& line);
     std::optional<Message> endRecord();
+    ImportRecord* recordFor(const GedcomLine& line, RecordKind kind);
     void skip(RecordKind kind, const GedcomLine& line, std::string_view identifier);
 
     Connection& m_connection;
@@ -74,6 +78,7 @@ private:
     IndividualRecord m_individual;
     FamilyRecord m_family;
     SchemaRecord m_schema;
+    PassedRecord m_passed;
     /// The record being read; null while one is passed over.
     ImportRecord* m_current = nullptr;
     bool m_anyRecord = false;
@@ -85,7 +90,8 @@ TreeImport::TreeImport(Connection& connection, LineSource& source, const FileEnc
       m_childLinks(connection, TableNamed(u"Fam2Child")), m_spouseLinks(connection, TableNamed(u"Spouse2Fam")),
       m_individualFacts(m_individuals, individualEventSlots), m_familyFacts(m_families, familyEventSlots),
       m_individual(m_individuals, m_spouseLinks, m_individualFacts, m_text),
-      m_family(m_families, m_childLinks, m_familyFacts, m_text), m_schema(m_individualFacts, m_familyFacts, m_text)
+      m_family(m_families, m_childLinks, m_familyFacts, m_text), m_schema(m_individualFacts, m_familyFacts, m_text),
+      m_passed(report)
 {
 }
 
@@ -117,24 +123,36 @@ std::optional<Message> TreeImport::run(ImportProgress& progress)
 
 void TreeImport::beginRecord(const GedcomLine& line)
 {
-    const RecordKind kind = KindOf(line.Tag);
-    const bool isTrailer = SameText(line.Tag, "TRLR");
-    m_report.hasTrailer = m_report.hasTrailer || isTrailer;
-    m_anyRecord = m_anyRecord || kind != RecordKind::Other || isTrailer || line.hasXref;
-    if (line.hasXref && line.XrefId < 0) {
-        // The identifier stands where the tag should be, and the tag is the first word behind it.
-        skip(KindOf(line.Value.substr(0, line.Value.find_first_of(" \t"))), line, line.Tag);
-    } else if (!line.hasXref && (kind == RecordKind::Individual || kind == RecordKind::Family)) {
-        skip(kind, line, line.Tag);
-    } else {
-        m_current = kind == RecordKind::Individual ? static_cast<ImportRecord*>(&m_individual)
-                    : kind == RecordKind::Family   ? &m_family
-                    : kind == RecordKind::Schema   ? static_cast<ImportRecord*>(&m_schema)
-                                                   : nullptr;
-    }
+    // An identifier that is no number stands where the tag should be, and the tag is the first word behind it.
+    const bool tagBehind = line.hasXref && line.XrefId < 0;
+    const RecordKind kind = KindOf(tagBehind ? line.Value.substr(0, line.Value.find_first_of(" \t")) : line.Tag);
+    m_report.hasTrailer = m_report.hasTrailer || kind == RecordKind::Trailer;
+    m_anyRecord = m_anyRecord || kind != RecordKind::Other || line.hasXref;
+    m_current = recordFor(line, kind);
     if (m_current != nullptr) {
         m_current->begin(line);
     }
+}
+
+/// What takes the lines of a record; null for one that is left out.
+ImportRecord* TreeImport::recordFor(const GedcomLine& line, RecordKind kind)
+{
+    switch (kind) {
+    case RecordKind::Individual:
+    case RecordKind::Family:
+        if (!line.hasXref || line.XrefId < 0) {
+            skip(kind, line, line.Tag);
+            return nullptr;
+        }
+        return kind == RecordKind::Individual ? static_cast<ImportRecord*>(&m_individual) : &m_family;
+    case RecordKind::Schema:
+        return line.XrefId < 0 && line.hasXref ? nullptr : &m_schema;
+    case RecordKind::Trailer:
+        return nullptr;
+    case RecordKind::Other:
+        return &m_passed;
+    }
+    return nullptr;
 }
 
 std::optional<Message> TreeImport::endRecord()
@@ -150,10 +168,8 @@ std::optional<Message> TreeImport::endRecord()
 
 void TreeImport::skip(RecordKind kind, const GedcomLine& line, std::string_view identifier)
 {
-    if (kind == RecordKind::Individual || kind == RecordKind::Family) {
-        ++(kind == RecordKind::Individual ? m_report.skippedIndividuals : m_report.skippedFamilies);
-        m_report.note(Loss::SkippedRecord, line.number, m_text.decode(identifier));
-    }
+    ++(kind == RecordKind::Individual ? m_report.skippedIndividuals : m_report.skippedFamilies);
+    m_report.note(Loss::SkippedRecord, line.number, m_text.decode(identifier));
 }
 
 void TreeImport::writeSchema()

@@ -120,6 +120,33 @@ TEST(Importer, KeepsColumnsForPartnershipsWhenAFamilyHasManyEvents)
     EXPECT_EQ(Value(tree, "SELECT _FA19_Place || _FA20_Place FROM Fam"), "DivorcedPartners");
 }
 
+TEST(Importer, ReportsEveryLineThatHasNoPlace)
+{
+    for (const QStringList& row : TestTable("gedcom/withoutplace.txt")) {
+        const ImportReport report = ImportedTree(Record(row[0].toUtf8(), row[1].toUtf8() + '\n')).report;
+        QStringList lines;
+        for (const LossNote& note : report.of(Loss::NoPlace).notes) {
+            lines << QString("%1 %2").arg(note.line).arg(note.subject);
+        }
+        EXPECT_EQ(lines.join("; "), row[2]) << row[1];
+    }
+}
+
+TEST(Importer, CountsTheTagsOfLinesThatHaveNoPlace)
+{
+    QByteArray lines = "1 NOTE 1\n1 NOTE 2\n1 OCCU 3\n";
+    EXPECT_TRUE(
+        ReportText(ImportedTree(Record("INDI", lines)).report)
+            .endsWith("what they hold: 3 (line 3 NOTE, line 4 NOTE, line 5 OCCU)\nTheir tags: NOTE 2, OCCU 1\n"));
+    for (int tag = 0; tag < 5000; ++tag) {
+        lines += "1 TAG" + QByteArray::number(tag) + " x\n";
+    }
+    const ImportReport report = ImportedTree(Record("INDI", lines)).report;
+    EXPECT_EQ(report.of(Loss::NoPlace).count, 5003);
+    EXPECT_EQ(report.tagsWithoutPlace.sorted().size(), TagCounts::most + 1);
+    EXPECT_EQ(report.tagsWithoutPlace.sorted().front(), std::pair(QString("other tags"), qint64(4502)));
+}
+
 TEST(Importer, TellsThePartnershipFromTheType)
 {
     for (const QStringList& row : TestTable("gedcom/partnerships.txt")) {
