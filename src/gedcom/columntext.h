@@ -3,6 +3,7 @@
 #pragma once
 
 #include "gedcom/charset.h"
+#include "gedcom/encoding.h"
 #include "gedcom/importreport.h"
 #include "gedcom/reader.h"
 
@@ -17,7 +18,10 @@ namespace stemwright
 class ColumnText
 {
 public:
-    ColumnText(Charset charset, ImportReport& report) : m_decoder(charset), m_report(report) {}
+    ColumnText(const FileEncoding& encoding, ImportReport& report)
+        : m_decoder(encoding.charset, encoding.name), m_report(report)
+    {
+    }
 
     /// UTF-8 of at most maxTextLength characters, valid until the next call. `tag` and `line` say in the report where
     /// the value stood.

@@ -85,7 +85,7 @@ private:
 };
 
 TreeImport::TreeImport(Connection& connection, LineSource& source, const FileEncoding& encoding, ImportReport& report)
-    : m_connection(connection), m_source(source), m_report(report), m_text(encoding.charset, report),
+    : m_connection(connection), m_source(source), m_report(report), m_text(encoding, report),
       m_individuals(connection, TableNamed(u"Indi")), m_families(connection, TableNamed(u"Fam")),
       m_childLinks(connection, TableNamed(u"Fam2Child")), m_spouseLinks(connection, TableNamed(u"Spouse2Fam")),
       m_individualFacts(m_individuals, individualEventSlots), m_familyFacts(m_families, familyEventSlots),
@@ -223,7 +223,8 @@ void OpenGedcomFile(QFile& file)
 std::optional<Message> RebuildTree(QIODevice& input, Connection& connection, Progress& progress, ImportReport& report)
 {
     const FileEncoding encoding = DetectEncoding(input);
-    report.charset = CharsetName(encoding.charset);
+    report.charset = encoding.name.isEmpty() ? CharsetName(encoding.charset) : encoding.name;
+    report.isCharsetGuessed = encoding.isGuessed;
     report.declaredCharset = encoding.declared;
     const std::vector<const TableDefinition*> tables = TreeTables();
     for (const TableDefinition* table : tables) {

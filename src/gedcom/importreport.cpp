@@ -154,6 +154,10 @@ QString ReportText(const ImportReport& report)
     lines << (declaredOtherwise
                   ? QStringLiteral("Encoding: %1 (the file says %2)").arg(report.charset, report.declaredCharset)
                   : QStringLiteral("Encoding: %1").arg(report.charset));
+    if (report.isCharsetGuessed) {
+        lines << QStringLiteral("The encoding that the file names is not known, so letters other than A to Z may be "
+                                "wrong. Please export it in UTF-8 if you can.");
+    }
     for (const LossWords& words : lossWords) {
         const LossList& list = report.of(words.kind);
         if (list.count > 0) {
@@ -175,6 +179,7 @@ QByteArray ReportJson(const ImportReport& report)
     QJsonObject object{{QStringLiteral("outcome"), OutcomeWord(report.outcome)},
                        {QStringLiteral("encoding"), report.charset},
                        {QStringLiteral("declaredEncoding"), report.declaredCharset},
+                       {QStringLiteral("encodingIsGuessed"), report.isCharsetGuessed},
                        {QStringLiteral("lines"), report.lines},
                        {QStringLiteral("individuals"), report.individuals},
                        {QStringLiteral("families"), report.families},

@@ -78,6 +78,8 @@ struct ImportReport {
     ImportOutcome outcome = ImportOutcome::Failed;
     QString charset;
     QString declaredCharset;
+    /// Whether the file declares a character set that is not known, or that cannot be its own.
+    bool isCharsetGuessed = false;
     qint64 lines = 0;
     qint64 individuals = 0;
     qint64 families = 0;
