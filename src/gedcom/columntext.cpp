@@ -52,6 +52,7 @@ void ContinuedText::clear()
     m_bytes.clear();
     m_dropped.clear();
     m_isSet = false;
+    m_hasJoints = false;
 }
 
 void ContinuedText::start(const GedcomLine& line)
@@ -60,20 +61,32 @@ void ContinuedText::start(const GedcomLine& line)
     m_dropped.assign(line.droppedAfter);
     m_line = line.number;
     m_isSet = true;
+    m_hasJoints = false;
 }
 
 void ContinuedText::continueWith(const GedcomLine& line)
 {
-    if (m_bytes.size() > LineSource::longestLine) {
+    const bool isJoined = SameText(line.Tag, "CONC");
+    const bool holdsNothing = line.Value.empty() && line.droppedAfter.empty();
+    if (m_bytes.size() > LineSource::longestLine || (isJoined && holdsNothing)) {
         return;
     }
-    if (SameText(line.Tag, "CONC")) {
+    if (isJoined) {
         m_bytes.append(m_dropped).append(line.droppedBefore).append(line.Value);
-        m_bytes.resize(CollapseCommas(m_bytes.data(), m_bytes.size()));
+        m_hasJoints = true;
     } else {
         m_bytes.append("\r\n").append(line.Value);
     }
     m_dropped.assign(line.droppedAfter);
+}
+
+std::string_view ContinuedText::bytes()
+{
+    if (m_hasJoints) {
+        m_bytes.resize(CollapseCommas(m_bytes.data(), m_bytes.size()));
+        m_hasJoints = false;
+    }
+    return m_bytes;
 }
 
 } // namespace stemwright

@@ -118,7 +118,8 @@ void IndividualRecord::takeDetail(const GedcomLine& line)
 bool IndividualRecord::stands(const GedcomLine& line)
 {
     if (SameText(fieldTag(), "ADDR")) {
-        return m_address.bytes().find(line.Value) != std::string_view::npos;
+        // Behind this many bytes no text reaches the column.
+        return m_address.bytes().substr(0, 4 * maxTextLength).find(line.Value) != std::string_view::npos;
     }
     switch (SameText(fieldTag(), "NAME") ? PackTag(line.Tag) : 0) {
     case PackTag("NPFX"):

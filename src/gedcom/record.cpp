@@ -170,7 +170,7 @@ void RowRecord::setNumber(int column, const GedcomLine& line)
     m_row.setInteger(column, XrefToNumber(line.Value));
 }
 
-void RowRecord::setContinued(int column, const ContinuedText& value, std::string_view tag)
+void RowRecord::setContinued(int column, ContinuedText& value, std::string_view tag)
 {
     if (value.isSet()) {
         m_row.setText(column, m_text.fit(value.bytes(), tag, value.line()));

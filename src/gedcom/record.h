@@ -87,7 +87,7 @@ protected:
     void setField(int column, const GedcomLine& line);
     void setNumber(int column, const GedcomLine& line);
     /// Sets a column to a value that may have been continued.
-    void setContinued(int column, const ContinuedText& value, std::string_view tag);
+    void setContinued(int column, ContinuedText& value, std::string_view tag);
 
     /// Puts the open event's date and place into the columns of a stem. Throws Error when the table has none.
     void setEvent(const CustomFact& fact);

@@ -8,6 +8,8 @@
 #include "gedcom/treedump.h"
 #include "support/testworld.h"
 
+#include <QtCore/QElapsedTimer>
+
 #include <gtest/gtest.h>
 
 namespace stemwright::test
@@ -160,6 +162,17 @@ TEST(Importer, JoinsConcLinesAsTheyWereSplit)
         ImportedTree tree(Record("INDI", "1 BIRT\n" + row[0].toUtf8()));
         EXPECT_EQ(Value(tree, "SELECT BIRT_Place FROM Indi"), row[1]) << row[0];
     }
+}
+
+TEST(Importer, JoinsManyLinesInLinearTime)
+{
+    const QByteArray lines =
+        "1 BIRT\n2 PLAC " + QByteArray("a,").repeated(32'000) + "a\n" + QByteArray("3 CONC\n").repeated(200'000);
+    QElapsedTimer timer;
+    timer.start();
+    ImportedTree tree(Record("INDI", lines));
+    EXPECT_TRUE(Value(tree, "SELECT BIRT_Place FROM Indi").startsWith("a,a,"));
+    EXPECT_LT(timer.elapsed(), 10'000);
 }
 
 TEST(Importer, MovesTheBarAtTheEndOfRecordsByTheHundred)
