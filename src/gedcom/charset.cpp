@@ -51,6 +51,21 @@ bool IsAscii(std::string_view bytes)
                         [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; });
 }
 
+std::size_t IncompleteTail(std::string_view bytes)
+{
+    for (std::size_t back = 1; back <= std::min<std::size_t>(3, bytes.size()); ++back) {
+        const auto byte = static_cast<unsigned char>(bytes[bytes.size() - back]);
+        if (byte >= 0xC0) {
+            const std::size_t needed = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
+            return needed > back ? back : 0;
+        }
+        if (byte < 0x80) {
+            return 0;
+        }
+    }
+    return 0;
+}
+
 ValueDecoder::ValueDecoder(Charset charset, const QString& name)
     : m_charset(charset), m_named(charset == Charset::Named ? NamedCharset::open(name) : std::nullopt)
 {

@@ -27,22 +27,6 @@ struct ByteScan {
     bool validUtf8 = true;
 };
 
-/// The length of a UTF-8 sequence that begins at the end of `bytes` and is not whole yet.
-std::size_t IncompleteTail(std::string_view bytes)
-{
-    for (std::size_t back = 1; back <= std::min<std::size_t>(3, bytes.size()); ++back) {
-        const auto byte = static_cast<unsigned char>(bytes[bytes.size() - back]);
-        if (byte >= 0xC0) {
-            const std::size_t needed = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
-            return needed > back ? back : 0;
-        }
-        if (byte < 0x80) {
-            return 0;
-        }
-    }
-    return 0;
-}
-
 void ScanBlock(std::string_view block, ByteScan& scan)
 {
     if (IsAscii(block)) {
