@@ -23,7 +23,7 @@ void NameEntry::type(const QString& text)
 
 void NameEntry::pick(int individualId, const QString& fullName)
 {
-    m_name = fullName.left(maxTextLength);
+    m_name = CutToColumn(fullName);
     m_personId = individualId;
 }
 

@@ -7,18 +7,23 @@
 #include "base/text.h"
 #include "store/engine/schema.h"
 
+#include <cmath>
+#include <limits>
+
 namespace stemwright
 {
 
 namespace
 {
 
-/// Numbers stand in the family file as text, and a name without a place has empty ones.
-std::optional<int> NumberOf(const QString& text)
+/// Numbers stand in the family file as text, and a name without a place has empty ones. Old albums have fractions, with
+/// the comma of their user's country.
+std::optional<int> NumberOf(QString text)
 {
     bool isNumber = false;
-    const int number = text.toInt(&isNumber);
-    return isNumber ? std::optional(number) : std::nullopt;
+    const double number = std::nearbyint(text.replace(u',', u'.').toDouble(&isNumber));
+    const bool fits = std::abs(number) <= std::numeric_limits<int>::max();
+    return isNumber && fits ? std::optional(static_cast<int>(number)) : std::nullopt;
 }
 
 PersonMark MarkOf(const Statement& row)
@@ -32,14 +37,37 @@ PersonMark MarkOf(const Statement& row)
     return mark;
 }
 
-void BindPlace(Statement& write, const std::optional<MarkPlace>& place, PointerTool tool, QSize defaultSize)
+QString TextOf(std::optional<int> number)
 {
-    const bool arrow = tool == PointerTool::Arrow;
+    return number ? QString::number(*number) : QString();
+}
+
+/// Binds the place from the parameter `first` on. What it does not have is bound as Null.
+void BindPlace(Statement& write, int first, const std::optional<MarkPlace>& place)
+{
     const MarkPlace stands = place.value_or(MarkPlace{});
-    const QString none = QStringLiteral("");
-    write.bind(5, place ? QString::number(stands.x) : none).bind(6, place ? QString::number(stands.y) : none);
-    write.bind(7, QString::number(arrow ? 0 : stands.width.value_or(defaultSize.width())));
-    write.bind(8, QString::number(arrow ? 0 : stands.height.value_or(defaultSize.height())));
+    write.bind(first, place ? TextOf(stands.x) : QString()).bind(first + 1, place ? TextOf(stands.y) : QString());
+    write.bind(first + 2, TextOf(stands.width)).bind(first + 3, TextOf(stands.height));
+}
+
+void WriteSizes(Connection& connection, int pictureId, PointerTool tool, QSize defaultSize)
+{
+    if (tool == PointerTool::Arrow) {
+        connection
+            .prepare(QStringLiteral("UPDATE Pic2Person SET Width = '0', Height = '0' WHERE PicId = ?1 AND "
+                                    "(Width IS NOT '0' OR Height IS NOT '0')"))
+            .bind(1, pictureId)
+            .run();
+        return;
+    }
+    connection
+        .prepare(QStringLiteral("UPDATE Pic2Person SET Width = coalesce(nullif(Width, ''), ?2), "
+                                "Height = coalesce(nullif(Height, ''), ?3) WHERE PicId = ?1 AND "
+                                "(coalesce(Width, '') = '' OR coalesce(Height, '') = '')"))
+        .bind(1, pictureId)
+        .bind(2, TextOf(defaultSize.width()))
+        .bind(3, TextOf(defaultSize.height()))
+        .run();
 }
 
 void RequireName(const QString& name)
@@ -96,8 +124,10 @@ void PersonMarks::change(std::size_t mark, const QString& name, const std::optio
     RequireName(name);
     PersonMark& changed = m_marks.at(mark);
     changed.name = name;
-    if (place) {
+    changed.isRenamed = true;
+    if (place && place != changed.place) {
         changed.place = place;
+        changed.isMoved = true;
     }
     m_changed = true;
     sort();
@@ -119,20 +149,29 @@ void PersonMarks::write(Connection& connection, int pictureId, PointerTool tool,
         remove.bind(1, row).run();
     }
     // Marks keep their rows, since the pages list the persons in the order in which they were added.
-    Statement insert = connection.prepare(QStringLiteral(
-        "INSERT INTO Pic2Person (PicId, PersId, Name, X, Y, Width, Height) VALUES (?2, ?3, ?4, ?5, ?6, ?7, ?8)"));
-    Statement update = connection.prepare(
-        QStringLiteral("UPDATE Pic2Person SET PicId = ?2, PersId = ?3, Name = ?4, X = ?5, Y = ?6, Width = ?7, "
-                       "Height = ?8 WHERE rowid = ?1"));
+    Statement insert =
+        connection.prepare(QStringLiteral("INSERT INTO Pic2Person (PicId, PersId, Name, X, Y, Width, Height) "
+                                          "VALUES (?1, ?2, ?3, coalesce(?4, ''), coalesce(?5, ''), ?6, ?7)"));
+    Statement rename = connection.prepare(QStringLiteral("UPDATE Pic2Person SET Name = ?2 WHERE rowid = ?1"));
+    Statement move = connection.prepare(
+        QStringLiteral("UPDATE Pic2Person SET X = ?2, Y = ?3, Width = ?4, Height = ?5 WHERE rowid = ?1"));
     for (const PersonMark& mark : m_marks) {
-        Statement& statement = mark.row == 0 ? insert : update;
-        if (mark.row != 0) {
-            statement.bind(1, mark.row);
+        if (mark.row == 0) {
+            insert.bind(1, pictureId).bind(2, mark.personId).bind(3, mark.name);
+            BindPlace(insert, 4, mark.place);
+            insert.run();
+            continue;
         }
-        statement.bind(2, pictureId).bind(3, mark.personId).bind(4, mark.name);
-        BindPlace(statement, mark.place, tool, defaultSize);
-        statement.run();
+        if (mark.isRenamed) {
+            rename.bind(1, mark.row).bind(2, mark.name).run();
+        }
+        if (mark.isMoved) {
+            move.bind(1, mark.row);
+            BindPlace(move, 2, mark.place);
+            move.run();
+        }
     }
+    WriteSizes(connection, pictureId, tool, defaultSize);
 }
 
 void PersonMarks::sort()

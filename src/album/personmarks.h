@@ -28,6 +28,9 @@ struct PersonMark {
     std::optional<MarkPlace> place;
     /// The row in the family file; 0 for a mark that it does not hold yet.
     qint64 row = 0;
+    /// What is pending of a mark that has a row.
+    bool isRenamed = false;
+    bool isMoved = false;
 };
 
 /// Reads the marks of one picture after another, each picture's in the order in which they were added.
@@ -63,8 +66,9 @@ public:
 
     void remove(std::size_t mark);
 
-    /// Writes all marks to the picture with this number: rectangles without a size get `defaultSize`, arrows have the
-    /// size 0 x 0. Must be called within a transaction; afterwards load the list again.
+    /// Writes what is pending to the picture with this number, and gives all its marks the sizes that the tool asks
+    /// for: rectangles without a size get `defaultSize`, arrows have the size 0 x 0. Whatever else the family file
+    /// holds stays as it was written. Must be called within a transaction; afterwards load the list again.
     void write(Connection& connection, int pictureId, PointerTool tool, QSize defaultSize) const;
 
 private:

@@ -67,17 +67,20 @@ QByteArray StoredThumbnailOf(const ImageFile& image)
     return SizeInKilobytes(image.bytes().size()) <= largestWithThumbnail ? MakeThumbnail(image) : QByteArray();
 }
 
-void CreateAllThumbnails(Connection& connection, Talk& talk)
+bool CreateAllThumbnails(Connection& connection, Talk& talk)
 {
     const std::vector<int> ids = PicturesOf(connection);
     if (ids.empty()) {
-        return;
+        return true;
     }
     const auto progress = talk.progress(albummessages::creatingThumbnails, albummessages::creatingThumbnailsCaption);
     Transaction transaction(connection);
     Statement select = connection.prepare(QStringLiteral("SELECT Picture FROM AlbumTOC WHERE PicId = ?1"));
     for (std::size_t done = 0; done < ids.size(); ++done) {
         progress->setPercent(static_cast<int>(100 * done / ids.size()));
+        if (progress->stopWished()) {
+            return false;
+        }
         select.bind(1, ids[done]).step();
         const QByteArray bytes = select.bytes(0);
         select.reset();
@@ -90,6 +93,7 @@ void CreateAllThumbnails(Connection& connection, Talk& talk)
     }
     progress->setPercent(100);
     transaction.commit();
+    return true;
 }
 
 } // namespace stemwright

@@ -33,7 +33,8 @@ QByteArray MakeThumbnail(const ImageFile& image);
 QByteArray StoredThumbnailOf(const ImageFile& image);
 
 /// Gives every picture of the family file its pixel size and, where it is small enough, its thumbnail, in one
-/// transaction and with a progress display. A picture that cannot be decoded is left as it is.
-void CreateAllThumbnails(Connection& connection, Talk& talk);
+/// transaction and with a progress display. A picture that cannot be decoded is left as it is. False, with nothing
+/// changed, when the user wished to stop.
+bool CreateAllThumbnails(Connection& connection, Talk& talk);
 
 } // namespace stemwright

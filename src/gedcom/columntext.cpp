@@ -9,35 +9,18 @@
 namespace stemwright
 {
 
-namespace
-{
-
-/// The byte behind the first `count` characters of `utf8`, or its size when there are no more.
-std::size_t BytesOf(std::string_view utf8, int count)
-{
-    for (std::size_t position = 0; position < utf8.size(); ++position) {
-        const bool beginsCharacter = (static_cast<unsigned char>(utf8[position]) & 0xC0U) != 0x80U;
-        if (beginsCharacter && count-- == 0) {
-            return position;
-        }
-    }
-    return utf8.size();
-}
-
-} // namespace
-
 std::string_view ColumnText::cut(std::string_view utf8, std::string_view tag, qint64 line)
 {
     if (utf8.size() <= maxTextLength) {
         return utf8;
     }
-    const std::size_t limit = BytesOf(utf8, maxTextLength);
+    const std::size_t limit = BytesOfCharacters(utf8, maxTextLength);
     if (limit == utf8.size()) {
         return utf8;
     }
     m_report.note(Loss::CutValue, line, tag);
     // The character behind the limit shows whether the limit stands inside what a reader sees as one character.
-    const std::string_view sample = utf8.substr(0, BytesOf(utf8, maxTextLength + 1));
+    const std::string_view sample = utf8.substr(0, BytesOfCharacters(utf8, maxTextLength + 1));
     const QString text = QString::fromUtf8(sample.data(), static_cast<qsizetype>(sample.size()));
     const qsizetype wanted = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(limit)).size();
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
@@ -52,6 +35,7 @@ void ContinuedText::clear()
     m_bytes.clear();
     m_dropped.clear();
     m_isSet = false;
+    m_hasJoints = false;
 }
 
 void ContinuedText::start(const GedcomLine& line)
@@ -60,20 +44,32 @@ void ContinuedText::start(const GedcomLine& line)
     m_dropped.assign(line.droppedAfter);
     m_line = line.number;
     m_isSet = true;
+    m_hasJoints = false;
 }
 
 void ContinuedText::continueWith(const GedcomLine& line)
 {
-    if (m_bytes.size() > LineSource::longestLine) {
+    const bool isJoined = SameText(line.Tag, "CONC");
+    const bool holdsNothing = line.Value.empty() && line.droppedAfter.empty();
+    if (m_bytes.size() > LineSource::longestLine || (isJoined && holdsNothing)) {
         return;
     }
-    if (SameText(line.Tag, "CONC")) {
+    if (isJoined) {
         m_bytes.append(m_dropped).append(line.droppedBefore).append(line.Value);
-        m_bytes.resize(CollapseCommas(m_bytes.data(), m_bytes.size()));
+        m_hasJoints = true;
     } else {
         m_bytes.append("\r\n").append(line.Value);
     }
     m_dropped.assign(line.droppedAfter);
+}
+
+std::string_view ContinuedText::bytes()
+{
+    if (m_hasJoints) {
+        m_bytes.resize(CollapseCommas(m_bytes.data(), m_bytes.size()));
+        m_hasJoints = false;
+    }
+    return m_bytes;
 }
 
 } // namespace stemwright

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "gedcom/charset.h"
+#include "gedcom/encoding.h"
 #include "gedcom/importreport.h"
 #include "gedcom/reader.h"
 
@@ -17,7 +18,10 @@ namespace stemwright
 class ColumnText
 {
 public:
-    ColumnText(Charset charset, ImportReport& report) : m_decoder(charset), m_report(report) {}
+    ColumnText(const FileEncoding& encoding, ImportReport& report)
+        : m_decoder(encoding.charset, encoding.name), m_report(report)
+    {
+    }
 
     /// UTF-8 of at most maxTextLength characters, valid until the next call. `tag` and `line` say in the report where
     /// the value stood.
@@ -58,14 +62,16 @@ public:
     /// The number of the line where the value began.
     qint64 line() const { return m_line; }
 
-    /// The whole value.
-    std::string_view bytes() const { return m_bytes; }
+    /// The whole value, in which runs of commas at the joints have shrunk like others. Valid until the next line.
+    std::string_view bytes();
 
 private:
     std::string m_bytes;
     std::string m_dropped;
     qint64 m_line = 0;
     bool m_isSet = false;
+    /// Whether lines were joined since commas were collapsed last. Doing that with each of many lines takes too long.
+    bool m_hasJoints = false;
 };
 
 } // namespace stemwright

@@ -8,6 +8,7 @@
 #include "gedcom/reader.h"
 
 #include <QtCore/QBuffer>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QUtf8StringView>
 
 namespace stemwright
@@ -25,22 +26,6 @@ struct ByteScan {
     bool hasHighBytes = false;
     bool validUtf8 = true;
 };
-
-/// The length of a UTF-8 sequence that begins at the end of `bytes` and is not whole yet.
-std::size_t IncompleteTail(std::string_view bytes)
-{
-    for (std::size_t back = 1; back <= std::min<std::size_t>(3, bytes.size()); ++back) {
-        const auto byte = static_cast<unsigned char>(bytes[bytes.size() - back]);
-        if (byte >= 0xC0) {
-            const std::size_t needed = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
-            return needed > back ? back : 0;
-        }
-        if (byte < 0x80) {
-            return 0;
-        }
-    }
-    return 0;
-}
 
 void ScanBlock(std::string_view block, ByteScan& scan)
 {
@@ -134,78 +119,113 @@ bool HasLettersOf850(const ByteScan& scan)
     return false;
 }
 
-Charset SingleByteCharset(const QString& declared, const ByteScan& scan)
+/// The name under which ICU knows a declared character set: the whole declaration, or the number of a code page in it.
+QString KnownName(const QString& declared)
+{
+    static const QRegularExpression number(QStringLiteral("\\d{3,}"));
+    for (const QString& name : {declared, QStringLiteral("cp") + number.match(declared).captured()}) {
+        if (NamedCharset::open(name)) {
+            return name;
+        }
+    }
+    return {};
+}
+
+/// The encoding of a file in which nothing but its header tells one.
+FileEncoding DeclaredEncoding(const QString& declared, const ByteScan& scan)
 {
     const auto names = [&declared](std::initializer_list<const char*> parts) {
         return std::any_of(parts.begin(), parts.end(), [&declared](const char* part) {
             return declared.contains(QLatin1String(part), Qt::CaseInsensitive);
         });
     };
+    const auto is = [&declared](Charset charset) { return FileEncoding{.charset = charset, .declared = declared}; };
     if (names({"ANSEL"})) {
-        return Charset::Ansel;
+        return is(Charset::Ansel);
     }
-    if (names({"WINDOWS", "ANSI", "1252"})) {
-        return Charset::Windows1252;
+    if (names({"1252"})) {
+        return is(Charset::Windows1252);
     }
     if (names({"MACINTOSH", "MACROMAN", "MAC OS"})) {
-        return Charset::MacRoman;
+        return is(Charset::MacRoman);
     }
     if (names({"437"})) {
-        return Charset::Dos437;
+        return is(Charset::Dos437);
     }
     if (names({"850"})) {
-        return Charset::Dos850;
+        return is(Charset::Dos850);
+    }
+    if (const QString name = KnownName(declared); !name.isEmpty()) {
+        return {.charset = Charset::Named, .name = name, .declared = declared};
+    }
+    if (names({"WINDOWS", "ANSI"})) {
+        return is(Charset::Windows1252);
     }
     if (names({"IBM", "DOS", "OEM"})) {
-        return HasLettersOf850(scan) ? Charset::Dos850 : Charset::Dos437;
+        return is(HasLettersOf850(scan) ? Charset::Dos850 : Charset::Dos437);
     }
-    return scan.hasHighBytes ? Charset::Windows1252 : Charset::Utf8;
+    FileEncoding guess = is(scan.hasHighBytes ? Charset::Windows1252 : Charset::Utf8);
+    guess.isGuessed = scan.hasHighBytes && !declared.isEmpty() && !IsWithinWindows1252(declared);
+    return guess;
 }
 
-void RefuseForeignFile(const QByteArray& head)
+/// The encoding that a byte-order mark tells, or the NUL bytes of UTF-16.
+std::optional<FileEncoding> MarkedEncoding(const QByteArray& head)
 {
+    if (head.startsWith("\xEF\xBB\xBF")) {
+        return FileEncoding{.charset = Charset::Utf8, .start = 3};
+    }
+    if (head.startsWith("\xFF\xFE")) {
+        return FileEncoding{.charset = Charset::Utf16LittleEndian, .start = 2};
+    }
+    if (head.startsWith("\xFE\xFF")) {
+        return FileEncoding{.charset = Charset::Utf16BigEndian, .start = 2};
+    }
+    if (const std::optional<Charset> wide = WideCharset(head)) {
+        return FileEncoding{.charset = *wide};
+    }
+    return std::nullopt;
+}
+
+/// The first bytes of a file, which must be text.
+QByteArray ReadHead(QIODevice& file)
+{
+    file.seek(0);
+    QByteArray head = file.read(headSize);
     if (head.isEmpty()) {
-        throw Error(gedcommessages::EmptyFile());
+        throw Error(file.size() > 0 ? gedcommessages::CannotRead(file.errorString()) : gedcommessages::EmptyFile());
     }
     if (head.startsWith("PK\x03\x04")) {
         throw Error(gedcommessages::ZipArchive());
     }
+    if (!MarkedEncoding(head) && head.count('\0') > head.size() / 20) {
+        throw Error(gedcommessages::BinaryFile());
+    }
+    return head;
 }
 
 } // namespace
 
 FileEncoding DetectEncoding(QIODevice& file)
 {
-    file.seek(0);
-    QByteArray head = file.read(headSize);
-    if (head.isEmpty() && file.size() > 0) {
-        throw Error(gedcommessages::CannotRead(file.errorString()));
-    }
-    RefuseForeignFile(head);
-    if (head.startsWith("\xEF\xBB\xBF")) {
-        return {Charset::Utf8, 3, {}};
-    }
-    if (head.startsWith("\xFF\xFE")) {
-        return {Charset::Utf16LittleEndian, 2, {}};
-    }
-    if (head.startsWith("\xFE\xFF")) {
-        return {Charset::Utf16BigEndian, 2, {}};
-    }
-    if (const std::optional<Charset> wide = WideCharset(head)) {
-        return {*wide, 0, {}};
-    }
-    if (head.count('\0') > head.size() / 20) {
-        throw Error(gedcommessages::BinaryFile());
+    const QByteArray head = ReadHead(file);
+    if (const std::optional<FileEncoding> marked = MarkedEncoding(head)) {
+        return *marked;
     }
     const QString declared = DeclaredCharset(head);
     if (declared.startsWith(u"UTF-8", Qt::CaseInsensitive) || declared.startsWith(u"UTF8", Qt::CaseInsensitive)) {
-        return {Charset::Utf8, 0, declared};
+        return {.charset = Charset::Utf8, .declared = declared};
     }
     const ByteScan scan = ScanBytes(file);
     if (scan.hasHighBytes && scan.validUtf8) {
-        return {Charset::Utf8, 0, declared};
+        return {.charset = Charset::Utf8, .declared = declared};
     }
-    return {SingleByteCharset(declared, scan), 0, declared};
+    return DeclaredEncoding(declared, scan);
+}
+
+void RequireText(QIODevice& file)
+{
+    ReadHead(file);
 }
 
 } // namespace stemwright

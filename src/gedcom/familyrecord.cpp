@@ -96,28 +96,25 @@ void FamilyRecord::takeField(const GedcomLine& line)
         return;
     case PackTag("DIV"):
         m_notDivorced = SameText(line.Value, "N");
-        openEvent();
+        openEvent(line);
         return;
     case PackTag("MARR"):
     case PackTag("EVEN"):
-        openEvent();
+        openEvent(line);
         return;
     default:
-        if (IsCustomFactTag(line.Tag)) {
-            openEvent();
-        }
+        IsCustomFactTag(line.Tag) ? openEvent(line) : passOver(line);
     }
 }
 
 void FamilyRecord::takeDetail(const GedcomLine& line)
 {
-    if (!m_inChild) {
-        return;
-    }
-    if (SameText(line.Tag, "_FREL")) {
+    if (m_inChild && SameText(line.Tag, "_FREL")) {
         setRelation(m_children.back().fatherRelation, line);
-    } else if (SameText(line.Tag, "_MREL")) {
+    } else if (m_inChild && SameText(line.Tag, "_MREL")) {
         setRelation(m_children.back().motherRelation, line);
+    } else {
+        passOver(line);
     }
 }
 
@@ -132,11 +129,11 @@ void FamilyRecord::setRelation(std::string& relation, const GedcomLine& line)
 
 void FamilyRecord::storeEvent()
 {
-    if (SameText(eventTag(), "MARR")) {
+    if (SameText(fieldTag(), "MARR")) {
         storeMarriage();
-    } else if (SameText(eventTag(), "DIV")) {
+    } else if (SameText(fieldTag(), "DIV")) {
         storeDivorce();
-    } else if (SameText(eventTag(), "EVEN")) {
+    } else if (SameText(fieldTag(), "EVEN")) {
         storeOtherEvent();
     } else {
         setCustomFact();
@@ -146,14 +143,18 @@ void FamilyRecord::storeEvent()
 void FamilyRecord::storeMarriage()
 {
     setEvent(m_marriage);
-    if (event().status.isSet() && !row().isFilled(m_columns.marriageStatus)) {
+    if (!row().isFilled(m_columns.marriageStatus)) {
         setContinued(m_columns.marriageStatus, event().status, "STAT");
+    } else if (event().status.hasContent()) {
+        text().report().note(Loss::RepeatedValue, event().status.line(), "STAT");
     }
 }
 
 void FamilyRecord::storeDivorce()
 {
-    if (!m_notDivorced) {
+    if (m_notDivorced) {
+        passOverEvent();
+    } else {
         setEventAs(facts().forLabel(endingLabel), withPlace("Divorced"));
     }
 }
@@ -167,9 +168,8 @@ void FamilyRecord::storeOtherEvent()
         return;
     }
     if (type.empty() || !event().hasContent()) {
-        return;
-    }
-    if (mayAdd(type)) {
+        passOverEvent();
+    } else if (mayAdd(type)) {
         setEvent(facts().forLabel(type));
     } else {
         text().report().note(Loss::NoColumnLeft, event().type.line(), type);

@@ -4,6 +4,7 @@
 
 #include "gedcom/importer.h"
 #include "gedcom/messages.h"
+#include "index/fullname.h"
 #include "store/engine/schema.h"
 #include "store/file/copyfamilyfile.h"
 
@@ -22,12 +23,13 @@ QString StoredGedcomPath(Connection& connection)
     return statement.step() ? statement.text(0) : QString();
 }
 
-/// Backs the family file up and settles a conflict of GEDCOM files. False when the user does not want to go on.
+/// Backs the family file up and settles a conflict of GEDCOM files, if it is known where the tree came from. False when
+/// the user does not want to go on.
 bool PrepareToReplaceTree(Connection& connection, const QString& path, const QString& stored, Talk& talk)
 {
     talk.tell(gedcommessages::CreatingBackup());
     BackupFamilyFile(connection);
-    return stored.compare(path, Qt::CaseInsensitive) == 0 ||
+    return stored.isEmpty() || stored.compare(path, Qt::CaseInsensitive) == 0 ||
            talk.ask(gedcommessages::FileConflict(path, stored)) == Button::Yes;
 }
 
@@ -51,13 +53,14 @@ bool ImportGedcomFile(FamilyFile& file, const QString& path, Environment& enviro
     Connection& connection = file.connection();
     const QFileInfo info(QFileInfo(path).absoluteFilePath());
     // A path longer than its column is compared by what the column holds.
-    const QString noted = info.filePath().left(maxTextLength);
+    const QString noted = CutToColumn(info.filePath());
     try {
         QFile input(info.filePath());
         OpenGedcomFile(input);
         input.close();
         const QString stored = StoredGedcomPath(connection);
-        if (!stored.isEmpty() && !PrepareToReplaceTree(connection, noted, stored, environment.talk)) {
+        const bool holdsTree = !stored.isEmpty() || HasIndividuals(connection);
+        if (holdsTree && !PrepareToReplaceTree(connection, noted, stored, environment.talk)) {
             return false;
         }
         environment.settings.setValue(setting::gedcom, setting::gedcomPath, info.path());

@@ -8,7 +8,9 @@
 #include "gedcom/importprogress.h"
 #include "gedcom/individualrecord.h"
 #include "gedcom/messages.h"
+#include "gedcom/passedrecord.h"
 #include "gedcom/schemarecord.h"
+#include "index/fullname.h"
 
 #include <QtCore/QFileInfo>
 
@@ -27,7 +29,7 @@ std::vector<const TableDefinition*> TreeTables()
     return tables;
 }
 
-enum class RecordKind { Individual, Family, Schema, Other };
+enum class RecordKind { Individual, Family, Schema, Trailer, Other };
 
 RecordKind KindOf(std::string_view tag)
 {
@@ -39,6 +41,8 @@ RecordKind KindOf(std::string_view tag)
     case PackTag("HEAD"):
     case PackTag("_SCHEMA"):
         return RecordKind::Schema;
+    case PackTag("TRLR"):
+        return RecordKind::Trailer;
     default:
         return RecordKind::Other;
     }
@@ -58,6 +62,7 @@ public:
 private:
     void beginRecord(const GedcomLine& line);
     std::optional<Message> endRecord();
+    ImportRecord* recordFor(const GedcomLine& line, RecordKind kind);
     void skip(RecordKind kind, const GedcomLine& line, std::string_view identifier);
 
     Connection& m_connection;
@@ -73,18 +78,20 @@ private:
     IndividualRecord m_individual;
     FamilyRecord m_family;
     SchemaRecord m_schema;
+    PassedRecord m_passed;
     /// The record being read; null while one is passed over.
     ImportRecord* m_current = nullptr;
     bool m_anyRecord = false;
 };
 
 TreeImport::TreeImport(Connection& connection, LineSource& source, const FileEncoding& encoding, ImportReport& report)
-    : m_connection(connection), m_source(source), m_report(report), m_text(encoding.charset, report),
+    : m_connection(connection), m_source(source), m_report(report), m_text(encoding, report),
       m_individuals(connection, TableNamed(u"Indi")), m_families(connection, TableNamed(u"Fam")),
       m_childLinks(connection, TableNamed(u"Fam2Child")), m_spouseLinks(connection, TableNamed(u"Spouse2Fam")),
       m_individualFacts(m_individuals, individualEventSlots), m_familyFacts(m_families, familyEventSlots),
       m_individual(m_individuals, m_spouseLinks, m_individualFacts, m_text),
-      m_family(m_families, m_childLinks, m_familyFacts, m_text), m_schema(m_individualFacts, m_familyFacts, m_text)
+      m_family(m_families, m_childLinks, m_familyFacts, m_text), m_schema(m_individualFacts, m_familyFacts, m_text),
+      m_passed(report)
 {
 }
 
@@ -116,24 +123,36 @@ std::optional<Message> TreeImport::run(ImportProgress& progress)
 
 void TreeImport::beginRecord(const GedcomLine& line)
 {
-    const RecordKind kind = KindOf(line.Tag);
-    const bool isTrailer = SameText(line.Tag, "TRLR");
-    m_report.hasTrailer = m_report.hasTrailer || isTrailer;
-    m_anyRecord = m_anyRecord || kind != RecordKind::Other || isTrailer || line.hasXref;
-    if (line.hasXref && line.XrefId < 0) {
-        // The identifier stands where the tag should be, and the tag is the first word behind it.
-        skip(KindOf(line.Value.substr(0, line.Value.find_first_of(" \t"))), line, line.Tag);
-    } else if (!line.hasXref && (kind == RecordKind::Individual || kind == RecordKind::Family)) {
-        skip(kind, line, line.Tag);
-    } else {
-        m_current = kind == RecordKind::Individual ? static_cast<ImportRecord*>(&m_individual)
-                    : kind == RecordKind::Family   ? &m_family
-                    : kind == RecordKind::Schema   ? static_cast<ImportRecord*>(&m_schema)
-                                                   : nullptr;
-    }
+    // An identifier that is no number stands where the tag should be, and the tag is the first word behind it.
+    const bool tagBehind = line.hasXref && line.XrefId < 0;
+    const RecordKind kind = KindOf(tagBehind ? line.Value.substr(0, line.Value.find_first_of(" \t")) : line.Tag);
+    m_report.hasTrailer = m_report.hasTrailer || kind == RecordKind::Trailer;
+    m_anyRecord = m_anyRecord || kind != RecordKind::Other || line.hasXref;
+    m_current = recordFor(line, kind);
     if (m_current != nullptr) {
         m_current->begin(line);
     }
+}
+
+/// What takes the lines of a record; null for one that is left out.
+ImportRecord* TreeImport::recordFor(const GedcomLine& line, RecordKind kind)
+{
+    switch (kind) {
+    case RecordKind::Individual:
+    case RecordKind::Family:
+        if (!line.hasXref || line.XrefId < 0) {
+            skip(kind, line, line.Tag);
+            return nullptr;
+        }
+        return kind == RecordKind::Individual ? static_cast<ImportRecord*>(&m_individual) : &m_family;
+    case RecordKind::Schema:
+        return line.XrefId < 0 && line.hasXref ? nullptr : &m_schema;
+    case RecordKind::Trailer:
+        return nullptr;
+    case RecordKind::Other:
+        return &m_passed;
+    }
+    return nullptr;
 }
 
 std::optional<Message> TreeImport::endRecord()
@@ -149,10 +168,8 @@ std::optional<Message> TreeImport::endRecord()
 
 void TreeImport::skip(RecordKind kind, const GedcomLine& line, std::string_view identifier)
 {
-    if (kind == RecordKind::Individual || kind == RecordKind::Family) {
-        ++(kind == RecordKind::Individual ? m_report.skippedIndividuals : m_report.skippedFamilies);
-        m_report.note(Loss::SkippedRecord, line.number, m_text.decode(identifier));
-    }
+    ++(kind == RecordKind::Individual ? m_report.skippedIndividuals : m_report.skippedFamilies);
+    m_report.note(Loss::SkippedRecord, line.number, m_text.decode(identifier));
 }
 
 void TreeImport::writeSchema()
@@ -179,7 +196,12 @@ std::optional<Message> ImportInOneAction(Connection& connection, const QString& 
     const std::unique_ptr<Progress> progress =
         talk.progress(gedcommessages::progressTitle, gedcommessages::progressCaption);
     Transaction transaction(connection);
+    const bool hadIndividuals = HasIndividuals(connection);
     std::optional<Message> duplicate = RebuildTree(file, connection, *progress, report);
+    if (hadIndividuals && report.individuals == 0 && report.skippedIndividuals > 0) {
+        const LossNote& first = report.of(Loss::SkippedRecord).notes.front();
+        throw Error(gedcommessages::NobodyTaken(report.skippedIndividuals, first.line, first.subject));
+    }
     transaction.commit();
     report.outcome = duplicate ? ImportOutcome::StoppedAtDuplicate : ImportOutcome::Completed;
     return duplicate;
@@ -195,12 +217,14 @@ void OpenGedcomFile(QFile& file)
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         throw Error(gedcommessages::CannotOpen(file.fileName(), file.errorString()));
     }
+    RequireText(file);
 }
 
 std::optional<Message> RebuildTree(QIODevice& input, Connection& connection, Progress& progress, ImportReport& report)
 {
     const FileEncoding encoding = DetectEncoding(input);
-    report.charset = CharsetName(encoding.charset);
+    report.charset = encoding.name.isEmpty() ? CharsetName(encoding.charset) : encoding.name;
+    report.isCharsetGuessed = encoding.isGuessed;
     report.declaredCharset = encoding.declared;
     const std::vector<const TableDefinition*> tables = TreeTables();
     for (const TableDefinition* table : tables) {

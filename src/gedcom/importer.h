@@ -15,12 +15,13 @@ namespace stemwright
 
 /// Imports the GEDCOM file at `path`. All of it is one transaction, or a part of the caller's. True when it ran to its
 /// end. False when it failed, with all tables as they were, or when a duplicate identifier stopped it, with the tables
-/// as far as they were filled (ImportReport::outcome tells which); the user was told why. The report is set in every
+/// as far as they were filled (ImportReport::outcome tells which); the user was told why. A file that has individuals
+/// of whom none can be taken fails, unless there is nobody in the tree who would be lost. The report is set in every
 /// case.
 bool ImportGedcom(Connection& connection, const QString& path, Environment& environment, ImportReport& report);
 
-/// Opens a GEDCOM file for reading. Throws Error when that cannot be done or when it is no file at all, but a folder or
-/// device.
+/// Opens a GEDCOM file for reading. Throws Error when that cannot be done, when it is no file at all, but a folder or
+/// device, and when its first bytes tell that it is no text.
 void OpenGedcomFile(QFile& file);
 
 /// The work of ImportGedcom on an open input that can be positioned, within the caller's transaction. Returns the

@@ -7,6 +7,8 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QStringList>
 
+#include <tuple>
+
 namespace stemwright
 {
 
@@ -26,9 +28,11 @@ constexpr std::array<LossWords, lossKinds> lossWords = {
      {Loss::RepeatedValue, "Values and events left out because the same record has an earlier one: %1",
       "repeatedValues"},
      {Loss::NoColumnLeft, "Family events left out because the family file holds 20 kinds of them: %1",
-      "eventsWithoutColumn"}}};
+      "eventsWithoutColumn"},
+     {Loss::NoPlace, "Lines left out because a family file has no place for what they hold: %1", "linesWithoutPlace"}}};
 
 constexpr std::size_t notesShown = 10;
+constexpr std::size_t tagsShown = 20;
 
 QString NotesText(const LossList& list)
 {
@@ -44,6 +48,24 @@ QString NotesText(const LossList& list)
         parts << QStringLiteral("and %1 more").arg(more);
     }
     return parts.join(QStringLiteral(", "));
+}
+
+/// The tags of the lines without a place, with their numbers.
+QString TagsText(const TagCounts& tags)
+{
+    QStringList parts;
+    qint64 more = 0;
+    for (const auto& [tag, count] : tags.sorted()) {
+        if (static_cast<std::size_t>(parts.size()) < tagsShown) {
+            parts << QStringLiteral("%1 %2").arg(tag, QString::number(count));
+        } else {
+            more += count;
+        }
+    }
+    if (more > 0) {
+        parts << QStringLiteral("others %1").arg(more);
+    }
+    return QStringLiteral("Their tags: ") + parts.join(QStringLiteral(", "));
 }
 
 QJsonObject LossObject(const LossList& list)
@@ -79,6 +101,35 @@ void ImportReport::note(Loss kind, qint64 line, std::string_view subject)
     }
 }
 
+void ImportReport::noteWithoutPlace(qint64 line, std::string_view tag)
+{
+    note(Loss::NoPlace, line, tag);
+    tagsWithoutPlace.add(tag);
+}
+
+void TagCounts::add(std::string_view tag)
+{
+    tag = tag.substr(0, longestTag);
+    const auto known = m_counts.find(tag);
+    if (known != m_counts.end()) {
+        ++known->second;
+    } else {
+        ++m_counts[std::string(m_counts.size() < most ? tag : others)];
+    }
+}
+
+std::vector<std::pair<QString, qint64>> TagCounts::sorted() const
+{
+    std::vector<std::pair<QString, qint64>> tags;
+    for (const auto& [tag, count] : m_counts) {
+        tags.emplace_back(ReportedText(tag), count);
+    }
+    std::sort(tags.begin(), tags.end(), [](const auto& left, const auto& right) {
+        return std::tie(right.second, left.first) < std::tie(left.second, right.first);
+    });
+    return tags;
+}
+
 QString ReportedText(std::string_view utf8)
 {
     constexpr qsizetype longest = 80;
@@ -103,12 +154,19 @@ QString ReportText(const ImportReport& report)
     lines << (declaredOtherwise
                   ? QStringLiteral("Encoding: %1 (the file says %2)").arg(report.charset, report.declaredCharset)
                   : QStringLiteral("Encoding: %1").arg(report.charset));
+    if (report.isCharsetGuessed) {
+        lines << QStringLiteral("The encoding that the file names is not known, so letters other than A to Z may be "
+                                "wrong. Please export it in UTF-8 if you can.");
+    }
     for (const LossWords& words : lossWords) {
         const LossList& list = report.of(words.kind);
         if (list.count > 0) {
             lines << QString::fromLatin1(words.sentence).arg(list.count) + QStringLiteral(" (") + NotesText(list) +
                          u')';
         }
+    }
+    if (report.of(Loss::NoPlace).count > 0) {
+        lines << TagsText(report.tagsWithoutPlace);
     }
     if (report.outcome == ImportOutcome::Completed && !report.hasTrailer) {
         lines << QStringLiteral("The file has no TRLR record at its end: it may be only a part of what was exported.");
@@ -121,6 +179,7 @@ QByteArray ReportJson(const ImportReport& report)
     QJsonObject object{{QStringLiteral("outcome"), OutcomeWord(report.outcome)},
                        {QStringLiteral("encoding"), report.charset},
                        {QStringLiteral("declaredEncoding"), report.declaredCharset},
+                       {QStringLiteral("encodingIsGuessed"), report.isCharsetGuessed},
                        {QStringLiteral("lines"), report.lines},
                        {QStringLiteral("individuals"), report.individuals},
                        {QStringLiteral("families"), report.families},
@@ -132,6 +191,11 @@ QByteArray ReportJson(const ImportReport& report)
     for (const LossWords& words : lossWords) {
         object.insert(QString::fromLatin1(words.key), LossObject(report.of(words.kind)));
     }
+    QJsonObject tags;
+    for (const auto& [tag, count] : report.tagsWithoutPlace.sorted()) {
+        tags.insert(tag, count);
+    }
+    object.insert(QStringLiteral("tagsWithoutPlace"), tags);
     return QJsonDocument(object).toJson();
 }
 

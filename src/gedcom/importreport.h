@@ -5,7 +5,9 @@
 #include <QtCore/QString>
 
 #include <array>
+#include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 /// What a GEDCOM import did: how much it read, and every line whose text did not go into the family file whole. Plain
@@ -30,14 +32,16 @@ enum class Loss {
     /// The record has a value for the same column before this one; the first is kept.
     RepeatedValue,
     /// A family event for which no column pair is left.
-    NoColumnLeft
+    NoColumnLeft,
+    /// A line of a kind that a family file has no place for.
+    NoPlace
 };
 
-inline constexpr std::size_t lossKinds = 4;
+inline constexpr std::size_t lossKinds = 5;
 
 struct LossNote {
     qint64 line = 0;
-    /// The tag, or the identifier of a skipped record.
+    /// The tag, also with the tag of level 1 in front of it, or the identifier of a skipped record.
     QString subject;
 };
 
@@ -49,10 +53,33 @@ struct LossList {
     std::vector<LossNote> notes;
 };
 
+/// How many lines there are of each tag. Of a file with no end of tags, the later ones are counted together.
+class TagCounts
+{
+public:
+    static constexpr std::size_t most = 500;
+    static constexpr std::size_t longestTag = 80;
+    static constexpr std::string_view others = "other tags";
+
+    void add(std::string_view tag);
+
+    /// The tags, as ReportedText(), with their counts; the most frequent first.
+    std::vector<std::pair<QString, qint64>> sorted() const;
+
+private:
+    struct Hash : std::hash<std::string_view> {
+        using is_transparent = void;
+    };
+
+    std::unordered_map<std::string, qint64, Hash, std::equal_to<>> m_counts;
+};
+
 struct ImportReport {
     ImportOutcome outcome = ImportOutcome::Failed;
     QString charset;
     QString declaredCharset;
+    /// Whether the file declares a character set that is not known, or that cannot be its own.
+    bool isCharsetGuessed = false;
     qint64 lines = 0;
     qint64 individuals = 0;
     qint64 families = 0;
@@ -63,10 +90,14 @@ struct ImportReport {
     /// Whether the file has its TRLR record; one without may be only a part of what was exported.
     bool hasTrailer = false;
     std::array<LossList, lossKinds> losses;
+    /// The tags of the lines without a place.
+    TagCounts tagsWithoutPlace;
 
     const LossList& of(Loss kind) const { return losses.at(static_cast<std::size_t>(kind)); }
 
     void note(Loss kind, qint64 line, std::string_view subject);
+    /// Notes a line that a family file has no place for.
+    void noteWithoutPlace(qint64 line, std::string_view tag);
 };
 
 /// Text from a GEDCOM file (UTF-8) as a report shows it: its beginning, on one line, with nothing that a terminal would

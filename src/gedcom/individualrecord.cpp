@@ -92,16 +92,48 @@ void IndividualRecord::takeField(const GedcomLine& line)
     case PackTag("BIRT"):
     case PackTag("DEAT"):
     case PackTag("EVEN"):
-        openEvent();
+        openEvent(line);
         return;
     default:
         break;
     }
     if (const StandardEvent* event = StandardEventOf(line.Tag)) {
         facts().forTag(event->tag, event->label);
-        openEvent();
+        openEvent(line);
     } else if (IsCustomFactTag(line.Tag)) {
-        openEvent();
+        openEvent(line);
+    } else {
+        passOver(line);
+    }
+}
+
+void IndividualRecord::takeDetail(const GedcomLine& line)
+{
+    if (!stands(line)) {
+        passOver(line);
+    }
+}
+
+/// Whether a line only repeats a part of the name or the address that is kept, as many programs write it.
+bool IndividualRecord::stands(const GedcomLine& line)
+{
+    if (SameText(fieldTag(), "ADDR")) {
+        // Behind this many bytes no text reaches the column.
+        return m_address.bytes().substr(0, 4 * maxTextLength).find(line.Value) != std::string_view::npos;
+    }
+    switch (SameText(fieldTag(), "NAME") ? PackTag(line.Tag) : 0) {
+    case PackTag("NPFX"):
+    case PackTag("GIVN"):
+    case PackTag("SPFX"):
+    case PackTag("SURN"):
+    case PackTag("NSFX"): {
+        const std::string_view part = text().decode(line.Value);
+        return row().text(m_columns.givenName).find(part) != std::string_view::npos ||
+               row().text(m_columns.surname).find(part) != std::string_view::npos ||
+               row().text(m_columns.suffix).find(part) != std::string_view::npos;
+    }
+    default:
+        return false;
     }
 }
 
@@ -119,19 +151,29 @@ void IndividualRecord::takeName(const GedcomLine& line)
 
 void IndividualRecord::storeEvent()
 {
-    const std::string_view tag = eventTag();
+    const std::string_view tag = fieldTag();
     if (SameText(tag, "BIRT")) {
         setEvent(m_birth);
     } else if (SameText(tag, "DEAT")) {
         setEvent(m_death);
     } else if (SameText(tag, "EVEN")) {
-        if (event().type.hasContent()) {
-            setEvent(facts().forLabel(text().fit(event().type.bytes(), "TYPE", event().type.line())));
-        }
+        storeTypedEvent();
     } else if (const StandardEvent* standard = StandardEventOf(tag)) {
         setEvent(facts().forTag(standard->tag, standard->label));
     } else {
         setCustomFact();
+    }
+}
+
+void IndividualRecord::storeTypedEvent()
+{
+    ContinuedText& type = event().type;
+    const bool hasType = type.hasContent();
+    if (hasType) {
+        setEvent(facts().forLabel(text().fit(type.bytes(), "TYPE", type.line())));
+    }
+    if (!hasType || !event().hasContent()) {
+        passOverEvent();
     }
 }
 

@@ -26,12 +26,13 @@ public:
 protected:
     void takeField(const GedcomLine& line) override;
 
-    void takeDetail(const GedcomLine&) override {}
-
+    void takeDetail(const GedcomLine& line) override;
     void storeEvent() override;
 
 private:
     void takeName(const GedcomLine& line);
+    bool stands(const GedcomLine& line);
+    void storeTypedEvent();
 
     struct Columns {
         int surname, givenName, suffix, sex, alias, title, address, phone, familyOfParents;

@@ -61,8 +61,11 @@ bool LineSource::next(SourceLine& line)
         return false;
     }
     const std::size_t length = (end == std::string::npos ? m_buffer.size() : end) - m_begin;
-    line = {m_buffer.data() + m_begin, std::min(length, longestLine), ++m_number};
     m_restToSkip = end == std::string::npos;
+    line = {m_buffer.data() + m_begin, std::min(length, longestLine), ++m_number};
+    if (m_restToSkip || line.length < length) {
+        line.length -= IncompleteTail({line.bytes, line.length});
+    }
     m_begin += length;
     if (!m_restToSkip) {
         m_lastEnd = m_buffer[m_begin++];

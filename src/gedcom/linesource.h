@@ -25,7 +25,8 @@ struct SourceLine {
 class LineSource
 {
 public:
-    /// What is kept of a line, in bytes; the rest of a longer one is read over. No column holds a hundredth of it.
+    /// What is kept of a line, in bytes; the rest of a longer one, from the last whole UTF-8 character on, is read
+    /// over. No column holds a hundredth of it.
     static constexpr std::size_t longestLine = 65'536;
 
     /// Reads `device`, which is open and can be positioned, from the byte `start` on. The UTF-16 sets are turned into

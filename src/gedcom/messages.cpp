@@ -131,6 +131,16 @@ QString NoRecords()
         "your genealogy program. Your family tree was left as it was.");
 }
 
+QString NobodyTaken(qint64 individuals, qint64 line, const QString& identifier)
+{
+    return QStringLiteral(
+               "None of the %1 individuals in the GEDCOM file can be imported, because their identifiers are "
+               "not such numbers as in @I12@ (line %2: %3). Please look in your genealogy program for a "
+               "setting of its export that numbers the individuals, or let another program number them "
+               "anew. Your family tree was left as it was.")
+        .arg(QString::number(individuals), QString::number(line), identifier);
+}
+
 QString NoColumnsFor(const QString& stem, const QString& label, qint64 line)
 {
     const QString fact = label.isEmpty() ? stem : QStringLiteral("%1 (%2)").arg(stem, label);

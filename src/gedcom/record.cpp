@@ -22,6 +22,8 @@ void RowRecord::begin(const GedcomLine& line)
 {
     m_id = line.XrefId;
     m_row.setInteger(m_row.column(u"Id"), m_id);
+    m_fieldTag.assign(line.Tag);
+    m_passedLevel = nothingPassed;
     m_eventOpen = false;
     m_continued = nullptr;
 }
@@ -36,15 +38,58 @@ void RowRecord::take(const GedcomLine& line)
         return;
     }
     m_continued = nullptr;
+    if (line.Level < '0' || line.Level > '9') {
+        m_text.report().noteWithoutPlace(line.number, "no level");
+        return;
+    }
+    if (line.Level <= m_passedLevel) {
+        m_passedLevel = nothingPassed;
+    }
     if (line.Level == '1') {
         closeEvent();
-        m_eventTag.assign(line.Tag);
-        m_eventLine = line.number;
+        m_fieldTag.assign(line.Tag);
+        m_fieldLine = line.number;
         takeField(line);
-    } else if (line.Level == '2' && m_eventOpen) {
-        takeEventLine(line);
-    } else if (line.Level == '2') {
-        takeDetail(line);
+    } else if (line.Level > '2' || m_passedLevel == '1') {
+        passOver(line);
+    } else {
+        m_detailTag.assign(line.Tag);
+        m_eventOpen ? takeEventLine(line) : takeDetail(line);
+    }
+}
+
+void RowRecord::passOver(const GedcomLine& line)
+{
+    m_passedLevel = std::min(m_passedLevel, line.Level);
+    if (line.Value.empty()) {
+        return;
+    }
+    if (m_passedLevel == '1') {
+        notePassedOver(line.number, {});
+    } else if (m_passedLevel == '2') {
+        notePassedOver(line.number, {m_detailTag});
+    } else {
+        notePassedOver(line.number, {m_detailTag, line.Tag});
+    }
+}
+
+/// Notes a line by the tags with which it stands below the last one of level 1.
+void RowRecord::notePassedOver(qint64 line, std::initializer_list<std::string_view> tags)
+{
+    m_passedTags.assign(m_fieldTag);
+    for (const std::string_view tag : tags) {
+        m_passedTags.append(1, ' ').append(tag);
+    }
+    m_text.report().noteWithoutPlace(line, m_passedTags);
+}
+
+void RowRecord::passOverEvent()
+{
+    for (const auto& [value, tag] :
+         {std::pair(&m_event.type, "TYPE"), std::pair(&m_event.date, "DATE"), std::pair(&m_event.place, "PLAC")}) {
+        if (value->hasContent()) {
+            notePassedOver(value->line(), {tag});
+        }
     }
 }
 
@@ -58,13 +103,13 @@ void RowRecord::takeEventLine(const GedcomLine& line)
         takeLines(m_event.place, line);
         break;
     case PackTag("TYPE"):
-        takeOnce(m_event.type, line);
+        SameText(m_fieldTag, "EVEN") ? takeOnce(m_event.type, line) : passOver(line);
         break;
     case PackTag("STAT"):
-        takeOnce(m_event.status, line);
+        SameText(m_fieldTag, "MARR") ? takeOnce(m_event.status, line) : passOver(line);
         break;
     default:
-        break;
+        passOver(line);
     }
 }
 
@@ -85,13 +130,26 @@ void RowRecord::takeLines(ContinuedText& value, const GedcomLine& line)
     takeOnce(value, line);
 }
 
+void RowRecord::openEvent(const GedcomLine& line)
+{
+    m_eventOpen = true;
+    m_eventOnlyAsserted = SameText(line.Value, "Y");
+    if (!line.Value.empty() && !m_eventOnlyAsserted) {
+        notePassedOver(line.number, {});
+    }
+}
+
 void RowRecord::closeEvent()
 {
-    if (m_eventOpen) {
-        m_eventOpen = false;
-        storeEvent();
-        m_event.clear();
+    if (!m_eventOpen) {
+        return;
     }
+    m_eventOpen = false;
+    storeEvent();
+    if (m_eventOnlyAsserted && !m_event.hasContent()) {
+        notePassedOver(m_fieldLine, {});
+    }
+    m_event.clear();
 }
 
 void RowRecord::setField(int column, const GedcomLine& line)
@@ -112,7 +170,7 @@ void RowRecord::setNumber(int column, const GedcomLine& line)
     m_row.setInteger(column, XrefToNumber(line.Value));
 }
 
-void RowRecord::setContinued(int column, const ContinuedText& value, std::string_view tag)
+void RowRecord::setContinued(int column, ContinuedText& value, std::string_view tag)
 {
     if (value.isSet()) {
         m_row.setText(column, m_text.fit(value.bytes(), tag, value.line()));
@@ -129,8 +187,9 @@ void RowRecord::setEvent(const CustomFact& fact)
 
 void RowRecord::setEventAs(const CustomFact& fact, std::string_view placeText)
 {
+    m_eventOnlyAsserted = false;
     if (claimColumns(fact)) {
-        m_row.setText(fact.placeColumn, m_text.cut(placeText, m_eventTag, m_eventLine));
+        m_row.setText(fact.placeColumn, m_text.cut(placeText, m_fieldTag, m_fieldLine));
         setContinued(fact.dateColumn, m_event.date, "DATE");
     }
 }
@@ -138,7 +197,7 @@ void RowRecord::setEventAs(const CustomFact& fact, std::string_view placeText)
 void RowRecord::setCustomFact()
 {
     if (m_event.hasContent()) {
-        setEvent(m_facts.forStem(m_eventTag));
+        setEvent(m_facts.forStem(m_fieldTag));
     }
 }
 
@@ -148,10 +207,10 @@ bool RowRecord::claimColumns(const CustomFact& fact)
 {
     if (fact.dateColumn == 0 || fact.placeColumn == 0) {
         throw Error(gedcommessages::NoColumnsFor(QString::fromStdString(fact.stem), QString::fromStdString(fact.label),
-                                                 m_eventLine));
+                                                 m_fieldLine));
     }
     if (m_row.isFilled(fact.dateColumn) || m_row.isFilled(fact.placeColumn)) {
-        m_text.report().note(Loss::RepeatedValue, m_eventLine, m_eventTag);
+        m_text.report().note(Loss::RepeatedValue, m_fieldLine, m_fieldTag);
         return false;
     }
     return true;

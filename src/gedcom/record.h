@@ -50,10 +50,10 @@ public:
     void take(const GedcomLine& line) final;
 
 protected:
-    /// A line of level 1, and one of level 2 that is no event's.
+    /// A line of level 1, and one of level 2 that is no event's. passOver() takes those that have no place.
     virtual void takeField(const GedcomLine& line) = 0;
     virtual void takeDetail(const GedcomLine& line) = 0;
-    /// The event that openEvent() began has ended.
+    /// The event that openEvent() began has ended: stores it, or passes it over.
     virtual void storeEvent() = 0;
 
     int id() const { return m_id; }
@@ -66,10 +66,16 @@ protected:
 
     EventLines& event() { return m_event; }
 
-    void openEvent() { m_eventOpen = true; }
+    /// Begins an event with its line of level 1, whose own text has no place.
+    void openEvent(const GedcomLine& line);
 
-    /// The tag of the event that is open.
-    const std::string& eventTag() const { return m_eventTag; }
+    /// The tag of the last line of level 1, which is that of the open event.
+    const std::string& fieldTag() const { return m_fieldTag; }
+
+    /// Reports a line for which there is no place, if it holds any text. All lines below it go with it.
+    void passOver(const GedcomLine& line);
+    /// Reports what the open event holds.
+    void passOverEvent();
 
     void closeEvent();
 
@@ -81,7 +87,7 @@ protected:
     void setField(int column, const GedcomLine& line);
     void setNumber(int column, const GedcomLine& line);
     /// Sets a column to a value that may have been continued.
-    void setContinued(int column, const ContinuedText& value, std::string_view tag);
+    void setContinued(int column, ContinuedText& value, std::string_view tag);
 
     /// Puts the open event's date and place into the columns of a stem. Throws Error when the table has none.
     void setEvent(const CustomFact& fact);
@@ -91,7 +97,10 @@ protected:
     void setCustomFact();
 
 private:
+    static constexpr char nothingPassed = '9' + 1;
+
     void takeEventLine(const GedcomLine& line);
+    void notePassedOver(qint64 line, std::initializer_list<std::string_view> tags);
     bool claimColumns(const CustomFact& fact);
 
     RowWriter& m_row;
@@ -99,9 +108,17 @@ private:
     ColumnText& m_text;
     int m_id = 0;
     EventLines m_event;
-    std::string m_eventTag;
-    qint64 m_eventLine = 0;
+    std::string m_fieldTag;
+    qint64 m_fieldLine = 0;
+    /// The tag of the last line of level 2.
+    std::string m_detailTag;
+    /// The level of the line that was passed over with all that is below it.
+    char m_passedLevel = nothingPassed;
     bool m_eventOpen = false;
+    /// Whether nothing but a "Y" tells that the open event took place.
+    bool m_eventOnlyAsserted = false;
+    /// The tags of a line that is passed over.
+    std::string m_passedTags;
     ContinuedText* m_continued = nullptr;
 };
 

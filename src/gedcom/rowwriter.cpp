@@ -30,7 +30,8 @@ bool IsKeyConflict(const SQLite::Exception& exception)
 } // namespace
 
 RowWriter::RowWriter(Connection& connection, const TableDefinition& table)
-    : m_table(table), m_insert(connection.engine(), InsertSql(table)), m_filled(table.columns.size() + 1)
+    : m_table(table), m_insert(connection.engine(), InsertSql(table)), m_pieceOf(table.columns.size() + 1),
+      m_filled(table.columns.size() + 1)
 {
 }
 
@@ -46,7 +47,12 @@ int RowWriter::column(QStringView name) const
 
 void RowWriter::setText(int column, std::string_view utf8)
 {
-    m_pieces.push_back({column, m_texts.size(), utf8.size()});
+    std::size_t& piece = m_pieceOf[static_cast<std::size_t>(column)];
+    if (piece == 0) {
+        m_pieces.emplace_back();
+        piece = m_pieces.size();
+    }
+    m_pieces[piece - 1] = {column, m_texts.size(), utf8.size()};
     m_texts.append(utf8);
     m_filled[static_cast<std::size_t>(column)] = !utf8.empty();
 }
@@ -60,9 +66,8 @@ void RowWriter::setInteger(int column, int value)
 
 std::string_view RowWriter::text(int column) const
 {
-    const auto piece =
-        std::find_if(m_pieces.rbegin(), m_pieces.rend(), [column](const Piece& set) { return set.column == column; });
-    return piece == m_pieces.rend() ? std::string_view() : textOf(*piece);
+    const std::size_t piece = m_pieceOf[static_cast<std::size_t>(column)];
+    return piece == 0 ? std::string_view() : textOf(m_pieces[piece - 1]);
 }
 
 RowResult RowWriter::write()
@@ -87,6 +92,7 @@ void RowWriter::clear()
 {
     for (const Piece& piece : m_pieces) {
         m_insert.bindNull(piece.column);
+        m_pieceOf[static_cast<std::size_t>(piece.column)] = 0;
         m_filled[static_cast<std::size_t>(piece.column)] = false;
     }
     for (const int column : m_integers) {

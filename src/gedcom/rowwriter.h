@@ -59,6 +59,8 @@ private:
     /// The texts of the coming row, one behind the other.
     std::string m_texts;
     std::vector<Piece> m_pieces;
+    /// The number of each column's piece, from 1; 0 for a column that was not set to a text.
+    std::vector<std::size_t> m_pieceOf;
     std::vector<int> m_integers;
     std::vector<bool> m_filled;
 };

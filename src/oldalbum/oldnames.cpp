@@ -2,8 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "oldalbum/oldnames.h"
 
+#include "base/text.h"
+
 #include <QtCore/QHash>
 #include <QtCore/QSet>
+
+#include <map>
+#include <set>
+#include <tuple>
 
 namespace stemwright
 {
@@ -26,11 +32,98 @@ QHash<int, std::size_t> PositionsOf(const std::vector<OldName>& names)
     return positions;
 }
 
-/// A mark is taken for that of an old name when it has the same place; one without a place, when it has the name or
-/// belongs to an individual, who may have another one.
-const QString isMarked =
-    QStringLiteral("EXISTS (SELECT 1 FROM Pic2Person m WHERE m.PicId = p.PicId AND m.X IS p.X AND m.Y IS p.Y "
-                   "AND (p.X <> '' OR m.PersId > 0 OR m.Name = n.Name COLLATE names))");
+void LoadPlaces(Connection& connection, std::vector<OldName>& names)
+{
+    const QHash<int, std::size_t> positions = PositionsOf(names);
+    Statement place = connection.prepare(
+        QStringLiteral("SELECT p.PersId, p.PicId, p.X, p.Y FROM PreV2Pic2Person p JOIN PreV2Indi n ON n.Id = p.PersId "
+                       "WHERE p.PicId IN (SELECT PicId FROM AlbumTOC) ORDER BY p.rowid"));
+    while (place.step()) {
+        names[positions.value(place.integer(0))].places.push_back({place.integer(1), place.text(2), place.text(3)});
+    }
+}
+
+/// Tells which of the old names have their marks. A mark where an old name stands belongs to that one, and elsewhere to
+/// the one whose name it has. Where several names stand at one place, or have none, there must be a mark for each of
+/// them unless names tell them apart: nobody can say whose the first ones are.
+class MarksOfNames
+{
+public:
+    MarksOfNames(Connection& connection, const std::vector<OldName>& names);
+
+    /// Whether a name is marked on all its pictures; one without pictures is not.
+    bool has(const OldName& name) const;
+
+private:
+    using NameOnPicture = std::pair<int, QByteArray>;
+    using Spot = std::tuple<int, QString, QString>;
+
+    /// The names at one place, and the marks there that belong to none of them by name.
+    struct Crowd {
+        std::set<QByteArray> names;
+        std::size_t unnamedMarks = 0;
+    };
+
+    static NameOnPicture NameAt(int pictureId, const QString& name) { return {pictureId, CollationKey(name)}; }
+
+    static Spot SpotOf(const OldPlace& place) { return {place.pictureId, place.x, place.y}; }
+
+    void take(const OldPlace& place, const QString& name, int personId);
+
+    std::map<Spot, Crowd> m_crowds;
+    /// All names, and whether a mark of their picture belongs to them by name.
+    std::map<NameOnPicture, bool> m_isNamed;
+};
+
+MarksOfNames::MarksOfNames(Connection& connection, const std::vector<OldName>& names)
+{
+    for (const OldName& name : names) {
+        for (const OldPlace& place : name.places) {
+            m_crowds[SpotOf(place)].names.insert(CollationKey(name.name));
+            m_isNamed[NameAt(place.pictureId, name.name)] = false;
+        }
+    }
+    Statement mark = connection.prepare(QStringLiteral(
+        "SELECT PicId, X, Y, Name, PersId FROM Pic2Person WHERE PicId IN (SELECT PicId FROM PreV2Pic2Person)"));
+    while (mark.step()) {
+        take({mark.integer(0), mark.text(1), mark.text(2)}, mark.text(3), mark.integer(4));
+    }
+    for (auto& [spot, crowd] : m_crowds) {
+        std::erase_if(crowd.names, [this, &spot = spot](const QByteArray& name) {
+            return m_isNamed.at({std::get<0>(spot), name});
+        });
+    }
+}
+
+void MarksOfNames::take(const OldPlace& place, const QString& name, int personId)
+{
+    const NameOnPicture own = NameAt(place.pictureId, name);
+    const auto crowd = m_crowds.find(SpotOf(place));
+    const auto named = m_isNamed.find(own);
+    const bool isPlaced = !place.x.isEmpty();
+    const bool isElsewhere = !isPlaced || crowd == m_crowds.end();
+    if (named != m_isNamed.end() && (isElsewhere || crowd->second.names.contains(own.second))) {
+        named->second = true;
+    } else if (crowd != m_crowds.end() && (isPlaced || personId > 0)) {
+        // A typed name without a place may be anybody's.
+        ++crowd->second.unnamedMarks;
+    }
+}
+
+bool MarksOfNames::has(const OldName& name) const
+{
+    std::set<int> marked;
+    const auto isMarked = [this, &name](const OldPlace& place) {
+        const Crowd& crowd = m_crowds.at(SpotOf(place));
+        return m_isNamed.at(NameAt(place.pictureId, name.name)) || crowd.unnamedMarks >= crowd.names.size();
+    };
+    for (const OldPlace& place : name.places) {
+        if (isMarked(place)) {
+            marked.insert(place.pictureId);
+        }
+    }
+    return !marked.empty() && marked.size() == name.pictureCount();
+}
 
 } // namespace
 
@@ -58,15 +151,10 @@ std::vector<OldName> LoadOldNames(Connection& connection)
     while (name.step()) {
         names.push_back({name.integer(0), name.text(1), {}, false});
     }
-    const QHash<int, std::size_t> positions = PositionsOf(names);
-    Statement place = connection.prepare(
-        QStringLiteral("SELECT p.PersId, p.PicId, p.X, p.Y, %1 FROM PreV2Pic2Person p JOIN PreV2Indi n ON n.Id = "
-                       "p.PersId WHERE p.PicId IN (SELECT PicId FROM AlbumTOC) ORDER BY p.rowid")
-            .arg(isMarked));
-    while (place.step()) {
-        OldName& owner = names[positions.value(place.integer(0))];
-        owner.places.push_back({place.integer(1), place.text(2), place.text(3)});
-        owner.marked = owner.marked || place.integer(4) != 0;
+    LoadPlaces(connection, names);
+    const MarksOfNames marks(connection, names);
+    for (OldName& one : names) {
+        one.marked = marks.has(one);
     }
     return names;
 }

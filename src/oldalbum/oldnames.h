@@ -25,7 +25,7 @@ struct OldName {
     QString name;
     /// Its places on pictures that are still in the album, in the order in which they were imported.
     std::vector<OldPlace> places;
-    /// Whether a person is marked at one of them already.
+    /// Whether a person is marked already on all of those pictures. One who may be somebody else does not count.
     bool marked = false;
 
     /// The number of pictures on which it stands, on some more than once.

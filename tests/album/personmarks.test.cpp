@@ -121,4 +121,28 @@ TEST(PersonMarks, TakeOddNumbersOfOtherProgramsForNone)
     EXPECT_EQ(marks.all()[2].place, (MarkPlace{7, 3, std::nullopt, std::nullopt}));
 }
 
+TEST(PersonMarks, KeepThePlacesThatOtherProgramsWrote)
+{
+    AlbumWorld world;
+    const int id = world.openPicture(PointerTool::Rectangle);
+    world.execute("INSERT INTO Pic2Person (PicId, PersId, Name, X, Y, Width, Height) VALUES "
+                  "(1, NULL, 'a', '12.5', '7,75', '30.2', '40'), (1, 0, 'b', NULL, NULL, NULL, '50'), "
+                  "(1, 0, 'c', 'left', '3 ', '', NULL), (1, 0, 'd', '1.5', '2.5', '3.5', '4.5')");
+    world.editing.EditPicRec(id);
+    const std::vector<PersonMark>& marks = world.editing.marks().all();
+    EXPECT_EQ(marks.at(0).place, (MarkPlace{12, 8, 30, 40}));
+    EXPECT_FALSE(marks.at(2).place.has_value());
+    world.editing.setTitle("new");
+    world.editing.pendingMarks().change(3, "f", MarkPlace{2, 2, 4, 5});
+    world.editing.pendingMarks().change(2, "e", std::nullopt);
+    world.editing.apply();
+    QStringList rows = {"1 - a 12.5 7,75 30.2 40", "1 0 b - - 48 50", "1 0 e left 3  48 64", "1 0 f 2 2 4 5"};
+    EXPECT_EQ(world.storedMarks(), rows);
+    world.editing.EditPicRec(id);
+    world.talk.expect("Change Pointer to Arrow?", Button::Ok);
+    EXPECT_TRUE(world.editing.RectangleOnOff(PointerTool::Arrow));
+    world.editing.apply();
+    EXPECT_EQ(world.storedMarks().constFirst(), "1 - a 12.5 7,75 0 0");
+}
+
 } // namespace stemwright::test

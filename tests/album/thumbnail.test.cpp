@@ -55,7 +55,11 @@ TEST(Thumbnail, IsMadeForAWholeAlbum)
     for (const QByteArray& picture : pictures) {
         connection.prepare("INSERT INTO AlbumTOC (Picture) VALUES (?1)").bindBytes(1, picture).run();
     }
-    CreateAllThumbnails(connection, world.talk);
+    world.talk.stopAt("Creating thumbnails");
+    EXPECT_FALSE(CreateAllThumbnails(connection, world.talk));
+    EXPECT_EQ(world.column("SELECT count(PicWidth) FROM AlbumTOC"), QStringList("0"));
+    world.talk.stopAt({});
+    EXPECT_TRUE(CreateAllThumbnails(connection, world.talk));
     Statement rows = connection.prepare("SELECT PicWidth, length(Thumb) FROM AlbumTOC ORDER BY PicId");
     const std::vector<std::pair<std::optional<int>, std::optional<int>>> expected = {
         {160, 54 + 80 * 60 * 3}, {160, std::nullopt}, {std::nullopt, std::nullopt}, {std::nullopt, std::nullopt}};
@@ -64,7 +68,7 @@ TEST(Thumbnail, IsMadeForAWholeAlbum)
         EXPECT_EQ(rows.optionalInteger(0), width);
         EXPECT_EQ(rows.optionalInteger(1), thumbnail);
     }
-    EXPECT_EQ(world.talk.captions(), QStringList("Creating thumbnails of your pictures"));
+    EXPECT_EQ(world.talk.captions(), QStringList(2, "Creating thumbnails of your pictures"));
     EXPECT_EQ(world.talk.percents().back(), 100);
 }
 

@@ -211,6 +211,7 @@ TEST_F(BadHandsTest, WhatIsBusyDoesNotClose)
     }
     start(familyFile(1));
     hand.choose("Select GEDCOM file", world.write("large.ged", "0 HEAD\n1 CHAR UTF-8\n" + people + "0 TRLR\n"));
+    hand.answer("Creating Backup Family File");
     hand.at("frmProgress", [this](QWidget&) {
         QApplication::closeAllWindows();
         window().close();

@@ -35,12 +35,15 @@ QString Fingerprint(const QString& path)
     const std::string kept = "tbl_name NOT IN ('Indi2Page', 'UniqueIds', 'sqlite_sequence')";
     QCryptographicHash hash(QCryptographicHash::Sha256);
     AddRows(hash, database, "SELECT name, sql FROM sqlite_master WHERE " + kept + " ORDER BY name");
-    SQLite::Statement tables(database,
-                             "SELECT name FROM sqlite_master WHERE type = 'table' AND name <> 'GenInfo' AND " + kept +
-                                 " ORDER BY name");
+    SQLite::Statement tables(database, "SELECT name, (SELECT group_concat('\"' || name || '\"') FROM "
+                                       "pragma_table_info(t.name) WHERE name <> 'ImportDate') "
+                                       "FROM sqlite_master t WHERE type = 'table' AND " +
+                                           kept + " ORDER BY name");
     int rows = 0;
     while (tables.executeStep()) {
-        rows += AddRows(hash, database, "SELECT * FROM \"" + tables.getColumn(0).getString() + "\" ORDER BY rowid");
+        const std::string name = tables.getColumn(0).getString();
+        rows += AddRows(hash, database,
+                        "SELECT " + tables.getColumn(1).getString() + " FROM \"" + name + "\" ORDER BY rowid");
     }
     return QString("%1 rows, %2").arg(rows).arg(QString::fromLatin1(hash.result().toHex().left(16)));
 }

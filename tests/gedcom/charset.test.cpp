@@ -85,6 +85,38 @@ TEST(Charset, BelievesTheHeaderWhereTheBytesBearItOut)
     }
 }
 
+TEST(Charset, KnowsTheCharacterSetsThatIcuKnows)
+{
+    const std::tuple<const char*, const char*, const char16_t*, bool> cases[] = {
+        {"WINDOWS-1250", "Dvo\xF8\xE1k", u"Dvořák", false},
+        {"ANSI 1250", "Dvo\xF8\xE1k", u"Dvořák", false},
+        {"CP1251", "\xCF\xE5\xF2\xF0", u"Петр", false},
+        {"1251", "\xCF\xE5\xF2\xF0", u"Петр", false},
+        {"CP852", "Dvo\xFD\xA0k", u"Dvořák", false},
+        {"ISO-8859-2",
+         "\xA3\xF3"
+         "d\xBC",
+         u"Łódź", false},
+        {"KOI8-R", "\xF0\xC5\xD4\xD2", u"Петр", false},
+        {"WINDOWS-1257", "\xD0\xA1\xA5", u"Š¡¥", false},
+        {"Shift_JIS", "\x93\x63\x92\x86\x83\x5C", u"田中ソ", false},
+        {"Shift_JIS", "\x93\x63 \xFF", u"“c ÿ", false},
+        {"ISO-8859-1", "Jos\xE9 \x96", u"José –", false},
+        {"US-ASCII", "Jos\xE9", u"José", false},
+        {"UTF-7", "Jos\xE9", u"José", true},
+        {"EBCDIC-CP-US", "Jos\xE9", u"José", true},
+        {"UNICODE", "Jos\xE9", u"José", true},
+        {"../KOI9", "Jos\xE9", u"José", true}};
+    for (const auto& [declared, name, text, isGuessed] : cases) {
+        ImportedTree tree(Headed(declared, name));
+        EXPECT_EQ(Rows(tree.connection, "SELECT GivenName FROM Indi"), QStringList(QString::fromUtf16(text)))
+            << declared;
+        EXPECT_EQ(tree.report.isCharsetGuessed, isGuessed) << declared;
+        EXPECT_EQ(ReportText(tree.report).contains("is not known"), isGuessed) << declared;
+    }
+    EXPECT_FALSE(Detect(Headed("KOI9", "Jose")).isGuessed);
+}
+
 TEST(Charset, FindsUtf8AcrossTheBlocksOfALargeFile)
 {
     QByteArray file = Headed("ANSEL", "x");

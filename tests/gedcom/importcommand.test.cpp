@@ -81,6 +81,24 @@ TEST_F(ImportCommand, AnotherFileIsAskedAbout)
     EXPECT_TRUE(conflict.text.contains("a.ged.\nIf the new GEDCOM file"));
 }
 
+TEST_F(ImportCommand, ATreeOfUnknownOriginIsBackedUpToo)
+{
+    file.connection().execute("INSERT INTO Indi (Id) VALUES (5)");
+    world.talk.expect("Creating Backup Family File");
+    EXPECT_TRUE(import("a.ged", "1 NAME Ann\n"));
+    EXPECT_TRUE(hasBackup());
+}
+
+TEST_F(ImportCommand, WhatIsNoTextIsRefusedBeforeAnythingElse)
+{
+    ASSERT_TRUE(import("a.ged", "1 NAME Ann\n"));
+    for (const QByteArray& content : {QByteArray(), QByteArray("PK\x03\x04"), QByteArray(5000, '\0')}) {
+        world.talk.expect("");
+        EXPECT_FALSE(ImportGedcomFile(file, world.write("b.ged", content), world.environment, report));
+        EXPECT_FALSE(hasBackup());
+    }
+}
+
 TEST_F(ImportCommand, AFailureLeavesTreeAndNoteAsTheyWere)
 {
     ASSERT_TRUE(import("a.ged", "1 NAME Ann\n"));

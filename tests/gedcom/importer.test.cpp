@@ -8,6 +8,8 @@
 #include "gedcom/treedump.h"
 #include "support/testworld.h"
 
+#include <QtCore/QElapsedTimer>
+
 #include <gtest/gtest.h>
 
 namespace stemwright::test
@@ -120,6 +122,33 @@ TEST(Importer, KeepsColumnsForPartnershipsWhenAFamilyHasManyEvents)
     EXPECT_EQ(Value(tree, "SELECT _FA19_Place || _FA20_Place FROM Fam"), "DivorcedPartners");
 }
 
+TEST(Importer, ReportsEveryLineThatHasNoPlace)
+{
+    for (const QStringList& row : TestTable("gedcom/withoutplace.txt")) {
+        const ImportReport report = ImportedTree(Record(row[0].toUtf8(), row[1].toUtf8() + '\n')).report;
+        QStringList lines;
+        for (const LossNote& note : report.of(Loss::NoPlace).notes) {
+            lines << QString("%1 %2").arg(note.line).arg(note.subject);
+        }
+        EXPECT_EQ(lines.join("; "), row[2]) << row[1];
+    }
+}
+
+TEST(Importer, CountsTheTagsOfLinesThatHaveNoPlace)
+{
+    QByteArray lines = "1 NOTE 1\n1 NOTE 2\n1 OCCU 3\n";
+    EXPECT_TRUE(
+        ReportText(ImportedTree(Record("INDI", lines)).report)
+            .endsWith("what they hold: 3 (line 3 NOTE, line 4 NOTE, line 5 OCCU)\nTheir tags: NOTE 2, OCCU 1\n"));
+    for (int tag = 0; tag < 5000; ++tag) {
+        lines += "1 TAG" + QByteArray::number(tag) + " x\n";
+    }
+    const ImportReport report = ImportedTree(Record("INDI", lines)).report;
+    EXPECT_EQ(report.of(Loss::NoPlace).count, 5003);
+    EXPECT_EQ(report.tagsWithoutPlace.sorted().size(), TagCounts::most + 1);
+    EXPECT_EQ(report.tagsWithoutPlace.sorted().front(), std::pair(QString("other tags"), qint64(4502)));
+}
+
 TEST(Importer, TellsThePartnershipFromTheType)
 {
     for (const QStringList& row : TestTable("gedcom/partnerships.txt")) {
@@ -133,6 +162,17 @@ TEST(Importer, JoinsConcLinesAsTheyWereSplit)
         ImportedTree tree(Record("INDI", "1 BIRT\n" + row[0].toUtf8()));
         EXPECT_EQ(Value(tree, "SELECT BIRT_Place FROM Indi"), row[1]) << row[0];
     }
+}
+
+TEST(Importer, JoinsManyLinesInLinearTime)
+{
+    const QByteArray lines =
+        "1 BIRT\n2 PLAC " + QByteArray("a,").repeated(32'000) + "a\n" + QByteArray("3 CONC\n").repeated(200'000);
+    QElapsedTimer timer;
+    timer.start();
+    ImportedTree tree(Record("INDI", lines));
+    EXPECT_TRUE(Value(tree, "SELECT BIRT_Place FROM Indi").startsWith("a,a,"));
+    EXPECT_LT(timer.elapsed(), 10'000);
 }
 
 TEST(Importer, MovesTheBarAtTheEndOfRecordsByTheHundred)
@@ -164,13 +204,19 @@ TEST(Importer, LeavesTheOldTreeWhenItFails)
         {"PK\x03\x04", "This is a ZIP archive"},
         {"\xEF\xBB\xBFjunk", "This is not a GEDCOM file: no record"},
         {QByteArray(5000, '\0'), "This is not a GEDCOM file but binary"},
-        {ManyEvents("INDI", 51), "The GEDCOM file has more kinds of events"}};
+        {ManyEvents("INDI", 51), "The GEDCOM file has more kinds of events"},
+        {"0 HEAD\n0 @X1@ INDI\n0 INDI\n0 @F1@ FAM\n0 TRLR\n",
+         "None of the 2 individuals in the GEDCOM file can be imported, because their identifiers are not such numbers "
+         "as "
+         "in @I12@ (line 2: @X1@)"}};
     for (const auto& [content, reason] : cases) {
         world.talk.expect(reason);
         EXPECT_FALSE(ImportGedcom(connection, world.write("bad.ged", content), world.environment, report));
         EXPECT_EQ(report.outcome, ImportOutcome::Failed);
         EXPECT_EQ(DumpTree(connection), before);
     }
+    connection.execute("DELETE FROM Indi");
+    EXPECT_TRUE(ImportGedcom(connection, world.path("bad.ged"), world.environment, report)) << "nobody is lost";
     world.talk.expect(world.path({}) + " is not a file");
     EXPECT_FALSE(ImportGedcom(connection, world.path({}), world.environment, report));
 }

@@ -67,6 +67,21 @@ TEST(Reader, KeepsTheBeginningOfAnEndlessLineAndGoesOn)
     EXPECT_EQ(lengths, (std::vector<std::size_t>{LineSource::longestLine - 7, 1}));
 }
 
+TEST(Reader, CutsAnEndlessLineBetweenCharacters)
+{
+    for (const QByteArray& character :
+         {QByteArray("\xC3\xA9"), QByteArray("\xE3\x82\xBD"), QByteArray("\xF0\x9F\x98\x80")}) {
+        for (const char* start : {"1 NOTE ", "1 NOTE a", "1 NOTE aa", "1 NOTE aaa"}) {
+            for (const qsizetype count : {70'000, 300'000}) {
+                ForEachLine(start + character.repeated(count), [](const GedcomLine& line) {
+                    EXPECT_TRUE(QUtf8StringView(line.Value).isValidUtf8());
+                    EXPECT_GE(line.Value.size(), LineSource::longestLine - 10);
+                });
+            }
+        }
+    }
+}
+
 TEST(Reader, LeavesOutNulBytes)
 {
     ForEachLine(QByteArray("1 NA\0ME \0Bob\0\n", 14), [](const GedcomLine& line) {

@@ -96,6 +96,35 @@ TEST_F(NameMatchingTest, WritesNameByNameAndNothingTwice)
     EXPECT_EQ(CountUnmarkedNames(world.connection()), 2);
 }
 
+TEST_F(NameMatchingTest, TakesNobodyElsesMarkForThatOfAName)
+{
+    // On the first picture nobody has a place, on the second one somebody.
+    add("Smith, John", {"1,,", "2,10,20"});
+    add("Smithson", {"1,,"});
+    add("Tom", {"1,,", "3,,"});
+    const auto unmarkedAfter = [this](const QString& marks) {
+        world.execute("DELETE FROM Pic2Person");
+        world.execute("INSERT INTO Pic2Person (PicId, PersId, X, Y, Name) VALUES " + marks);
+        QStringList names;
+        for (const OldName& name : LoadOldNames(world.connection())) {
+            names << (name.marked ? QString() : name.name.left(6));
+        }
+        EXPECT_EQ(CountUnmarkedNames(world.connection()), 3 - names.count(""));
+        return names.join(u'|');
+    };
+    const std::pair<const char*, const char*> cases[] = {
+        {"(1, 2, '', '', 'Smith, Jo')", "Smith,|Smiths|Tom"},
+        {"(1, 2, '', '', 'Smith, Jo'), (2, 2, '10', '20', 'Smith, Jo')", "Smith,|Smiths|Tom"},
+        {"(1, 4, '', '', 'smithson'), (1, 2, NULL, NULL, 'Jo'), (2, 2, '10', '20', 'Jo')", "Smith,||Tom"},
+        {"(1, 0, '', '', 'Tom'), (1, 4, '', '', 'Jane'), (1, 2, '', '', 'Jo'), (2, 2, '10', '20', 'Jo')", "||Tom"},
+        {"(1, 0, '5', '5', 'Tom'), (3, 0, '', '', 'Tom'), (1, 0, '', '', 'Jane'), (1, 4, '', '', 'Ann')",
+         "Smith,|Smiths|"},
+        {"(2, 1, '10', '20', 'Smithson'), (1, 1, '7', '7', 'smithson')", "Smith,||Tom"}};
+    for (const auto& [marks, unmarked] : cases) {
+        EXPECT_EQ(unmarkedAfter(marks), unmarked) << marks;
+    }
+}
+
 TEST_F(NameMatchingTest, PassesOverANameThatIsNotCancelled)
 {
     add("Smith", {"1,1,2"});

@@ -47,6 +47,7 @@ TEST_F(SetupEditingTest, TypedValuesAreStoredAsTheirColumnsHoldThemOrRefused)
         }
     }
     EXPECT_FALSE(ErrorOf([&] { editing.set("SiteTitle", QString(256, u'x')); }).isEmpty());
+    EXPECT_TRUE(ErrorOf([&] { editing.set("SiteTitle", QString("\U0001F600").repeated(255)); }).isEmpty());
     EXPECT_TRUE(ErrorOf([&] { editing.set("Colour", {}); }).contains("CellFg, CellBg"));
 }
 

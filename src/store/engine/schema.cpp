@@ -405,11 +405,19 @@ QString CutToColumn(const QString& text)
     if (text.size() <= maxTextLength) {
         return text;
     }
-    QString cut = text.left(maxTextLength);
-    if (cut.back().isHighSurrogate()) {
-        cut.chop(1);
+    const std::string utf8 = text.toStdString();
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(BytesOfCharacters(utf8, maxTextLength)));
+}
+
+std::size_t BytesOfCharacters(std::string_view utf8, int count)
+{
+    for (std::size_t position = 0; position < utf8.size(); ++position) {
+        const bool beginsCharacter = (static_cast<unsigned char>(utf8[position]) & 0xC0U) != 0x80U;
+        if (beginsCharacter && count-- == 0) {
+            return position;
+        }
     }
-    return cut;
+    return utf8.size();
 }
 
 } // namespace stemwright

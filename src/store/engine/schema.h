@@ -55,6 +55,9 @@ void RequireShortText(const QString& text, const QString& what);
 /// As much of the beginning of a text as a text column holds. Null stays Null.
 QString CutToColumn(const QString& text);
 
+/// How many bytes the first `count` characters of UTF-8 take; all of them when there are no more.
+std::size_t BytesOfCharacters(std::string_view utf8, int count);
+
 /// The number of event slots "_FA1", "_FA2", ... of an individual and of a family.
 inline constexpr int individualEventSlots = 50;
 inline constexpr int familyEventSlots = 20;

@@ -37,11 +37,11 @@ bool ParseTypedYesNo(const QString& column, const QString& typed)
 
 QString ParseTypedText(const QString& column, const QString& typed)
 {
-    if (typed.size() > maxTextLength) {
+    if (const qsizetype characters = typed.toUcs4().size(); characters > maxTextLength) {
         throw Error(QStringLiteral("%1 can hold %2 characters, but the text has %3.")
                         .arg(column)
                         .arg(maxTextLength)
-                        .arg(typed.size()));
+                        .arg(characters));
     }
     return typed;
 }

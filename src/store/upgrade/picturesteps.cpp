@@ -122,7 +122,9 @@ void AddThumbnails(UpgradeRun& run)
     AddColumn(run.work, album, QStringLiteral("Thumb"), ColumnType::Binary);
     AddColumn(run.work, album, QStringLiteral("PicWidth"), ColumnType::Integer);
     AddColumn(run.work, album, QStringLiteral("PicHeight"), ColumnType::Integer);
-    CreateAllThumbnails(run.work, run.environment.talk);
+    if (!CreateAllThumbnails(run.work, run.environment.talk)) {
+        throw UpgradeStopped{};
+    }
 }
 
 } // namespace stemwright

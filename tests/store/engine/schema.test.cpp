@@ -129,4 +129,19 @@ TEST(Schema, KeysTellNoUpperFromLowerCase)
     EXPECT_THROW(CreateTable(connection, TableNamed(u"indi")), SQLite::Exception);
 }
 
+TEST(Schema, CutsTextsToWhatAColumnHolds)
+{
+    const QString filler(254, u'x');
+    const std::pair<QString, QString> cases[] = {
+        {filler + "\U0001F600", filler + "\U0001F600"},
+        {filler + "\U0001F600z", filler + "\U0001F600"},
+        {filler + "éz", filler + "é"},
+        {QString("\U0001F600").repeated(255), QString("\U0001F600").repeated(255)},
+        {"", ""}};
+    for (const auto& [text, cut] : cases) {
+        EXPECT_EQ(CutToColumn(text), cut);
+    }
+    EXPECT_TRUE(CutToColumn({}).isNull());
+}
+
 } // namespace stemwright::test
