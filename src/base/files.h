@@ -46,6 +46,9 @@ public:
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
     ~UnfinishedFile();
 
+    /// The place that the file will have.
+    const QString& target() const { return m_target; }
+
     /// Where to write the file.
     const QString& path() const { return m_path; }
 

@@ -3,15 +3,14 @@
 #include "store/file/copyfamilyfile.h"
 
 #include "base/error.h"
-#include "base/files.h"
+#include "store/engine/heldfile.h"
+#include "store/engine/leftjournal.h"
 
 #include <SQLiteCpp/Backup.h>
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-
-#include <sqlite3.h>
 
 namespace stemwright
 {
@@ -73,17 +72,17 @@ void PrepareToReplace(const QString& path)
     if (!info.isWritable()) {
         throw Error(QStringLiteral("File %1 is write-protected.").arg(shown));
     }
-    try {
-        const Connection takesWhatTheJournalHolds(path, OpenMode::ReadWrite);
-    } catch (const SQLite::Exception& exception) {
-        if (exception.getErrorCode() == SQLITE_BUSY) {
-            throw Error(QStringLiteral("File %1 is in use by this or another program.").arg(shown));
-        }
-        // Whatever it is, the user wishes it replaced.
+    if (!HeldFile(path).isHeld()) {
+        throw Error(QStringLiteral("File %1 is in use by this or another program.").arg(shown));
     }
-    for (const char* companion : {"-journal", "-wal", "-shm"}) {
-        QFile::remove(path + QString::fromLatin1(companion));
+}
+
+void PutFamilyFileInPlace(UnfinishedFile& file)
+{
+    for (const QString& companion : CompanionsOf(file.target())) {
+        QFile::remove(companion);
     }
+    file.putInPlace();
 }
 
 void CopyFamilyFile(Connection& connection, const QString& target)
@@ -96,7 +95,7 @@ void CopyFamilyFile(Connection& connection, const QString& target)
         SQLite::Backup(copy, connection.engine()).executeStep(-1);
         RequireSound(copy);
     }
-    unfinished.putInPlace();
+    PutFamilyFileInPlace(unfinished);
 }
 
 QString BackupPath(const QString& familyFile)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "base/files.h"
 #include "store/engine/connection.h"
 
 #include <QtCore/QString>
@@ -27,8 +28,11 @@ QString BackupPath(const QString& familyFile);
 QString BackupFamilyFile(Connection& connection);
 
 /// Makes sure that a file can be put at `path`: the folder is there and can be written, and a file that stands there is
-/// no folder, not write-protected and not open in any program. Whatever the engine's journal beside it has to say to it
-/// is done, so that the journal is not taken for that of the file which comes in its place.
+/// no folder, not write-protected and not open in any program. Changes nothing.
 void PrepareToReplace(const QString& path);
+
+/// Puts a whole family file in its place (UnfinishedFile::putInPlace()). What the engine left beside the file that goes
+/// goes with it, so that its journal is not taken for that of the file which comes.
+void PutFamilyFileInPlace(UnfinishedFile& file);
 
 } // namespace stemwright

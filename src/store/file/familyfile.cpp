@@ -4,6 +4,7 @@
 
 #include "base/files.h"
 #include "store/engine/engineerror.h"
+#include "store/engine/leftjournal.h"
 #include "store/file/copyfamilyfile.h"
 #include "store/file/messages.h"
 #include "store/file/recognise.h"
@@ -36,7 +37,11 @@ QString FileItself(const QString& path)
 /// Opens a file after the upgrade that it may need; none when the user declined the upgrade.
 std::unique_ptr<Connection> OpenRecognised(const QString& path, const Environment& environment)
 {
-    if (RecogniseFormat(path) == FileFormat::Jet) {
+    const FileFormat format = RecogniseFormat(path);
+    if (const QStringList aside = SetForeignJournalsAside(path); !aside.isEmpty()) {
+        environment.talk.tell(storemessages::JournalsSetAside(path, aside));
+    }
+    if (format == FileFormat::Jet) {
         return UpgradeFamilyFile(*OpenJetFamilyFile(FileItself(path)), environment) ? OpenRecognised(path, environment)
                                                                                     : nullptr;
     }
@@ -59,7 +64,7 @@ bool CreateFamilyFile(FamilyFile& file, const QString& path, Environment& enviro
         PrepareToReplace(target);
         UnfinishedFile unfinished(target);
         WriteNewFile(unfinished.path(), environment);
-        unfinished.putInPlace();
+        PutFamilyFileInPlace(unfinished);
     } catch (const std::exception& exception) {
         environment.talk.tell(storemessages::CannotCreate(target, ReasonText(exception)));
         return false;

@@ -58,7 +58,7 @@ QString WritableSampleFile(const ApplicationFolder& application)
         CreateFolderPath(ApplicationFolder::userFolder());
         UnfinishedFile unfinished(own);
         WriteWholeFile(unfinished.path(), ReadWholeFile(shipped));
-        unfinished.putInPlace();
+        PutFamilyFileInPlace(unfinished);
     }
     return own;
 }

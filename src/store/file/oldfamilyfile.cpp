@@ -44,7 +44,7 @@ public:
         PrepareToReplace(target);
         UnfinishedFile unfinished(target);
         WriteWholeFile(unfinished.path(), m_source->content());
-        unfinished.putInPlace();
+        PutFamilyFileInPlace(unfinished);
     }
 
     void requireUnchanged() const override

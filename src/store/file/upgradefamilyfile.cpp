@@ -72,7 +72,7 @@ private:
         }
         QFile::setPermissions(current.path(), QFileInfo(m_old.path()).permissions());
         m_old.requireUnchanged();
-        current.putInPlace();
+        PutFamilyFileInPlace(current);
     }
 
     void upgrade(const QString& workPath)

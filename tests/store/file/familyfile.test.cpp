@@ -3,6 +3,8 @@
 #include "store/file/familyfile.h"
 
 #include "base/files.h"
+#include "store/file/fileflows.h"
+#include "support/childprocess.h"
 #include "support/testworld.h"
 
 #include <QtCore/QDir>
@@ -51,6 +53,23 @@ private:
 
     const uid_t m_before = ::geteuid();
 };
+
+/// What a program that was killed in an import leaves beside the family file.
+QByteArray JournalOfAKilledImport(const QString& path)
+{
+    const auto die = [&path] {
+        Connection connection(path, OpenMode::ReadWrite);
+        connection.execute("PRAGMA cache_size=2");
+        const Transaction transaction(connection);
+        connection.execute(
+            "DELETE FROM Indi; WITH RECURSIVE n(i) AS (SELECT 1 UNION SELECT i + 1 FROM n WHERE i < 9999)"
+            " INSERT INTO Indi (Id) SELECT i FROM n");
+        ::_exit(0);
+        return 0;
+    };
+    EXPECT_EQ(RunInOwnProcess(die), 0);
+    return ReadWholeFile(path + "-journal");
+}
 
 } // namespace
 
@@ -163,14 +182,40 @@ TEST(FamilyFile, AFailedCreationLeavesTheOldFile)
     EXPECT_EQ(QDir(world.path({})).entryList(QDir::Files), QStringList{"Family.kvf"});
 }
 
-TEST(FamilyFile, AJournalThatWasLeftBehindIsNotPlayedIntoTheNewFile)
+TEST(FamilyFile, AJournalThatWasLeftBehindIsNotPlayedIntoTheFileThatComes)
 {
+    const QByteArray jet = ReadWholeFile(TestData("jet/family-2.2.9930/cats-2.2.9930.kvf"));
     TestWorld world;
-    const QString path = world.write("Family.kvf", "not a family file");
-    world.write("Family.kvf-journal", QByteArray::fromHex("d9d505f920a163d7") + QByteArray(4096, '\1'));
-    world.newFamilyFile();
+    const QString path = world.newFamilyFile().path();
+    world.execute("INSERT INTO Indi (Id) VALUES (1), (2)");
+    ASSERT_TRUE(SaveFamilyFileAs(world.file, world.path("older.kvf"), world.environment));
+    world.execute("INSERT INTO Indi (Id) VALUES (3)");
     world.file.close();
-    EXPECT_TRUE(OpenFamilyFile(world.file, path, world.environment));
+    const QByteArray left = JournalOfAKilledImport(path);
+    const QByteArray older = ReadWholeFile(world.path("older.kvf"));
+    const QString opening = "Opening family file";
+
+    const auto expectPeople = [&](const char* number) {
+        EXPECT_EQ(world.column("SELECT count(*) FROM Indi"), QStringList(number));
+        EXPECT_EQ(world.column("PRAGMA integrity_check"), QStringList("ok"));
+        world.file.close();
+    };
+    WriteWholeFile(path, older);
+    WriteWholeFile(path + "-journal", left);
+    world.talk.expect(opening);
+    ASSERT_TRUE(OpenFamilyFile(world.file, path, world.environment)) << "a backup that was put back";
+    EXPECT_TRUE(world.talk.shown().back().text.contains(path + "-journal-of-another-file"));
+    expectPeople("2");
+
+    WriteWholeFile(path, jet);
+    WriteWholeFile(path + "-journal", left);
+    world.talk.expect(opening).expect("Creating Backup Family File");
+    ASSERT_TRUE(OpenFamilyFile(world.file, path, world.environment)) << "an upgrade";
+    expectPeople("13");
+
+    WriteWholeFile(path + "-journal", left);
+    ASSERT_TRUE(CreateFamilyFile(world.file, path, world.environment)) << "a new file";
+    expectPeople("0");
 }
 
 } // namespace stemwright::test
