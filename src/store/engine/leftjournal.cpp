@@ -66,8 +66,6 @@ public:
     /// Whether the engine would play it back at all.
     bool isHot() const { return m_first.has_value(); }
 
-    bool isEmpty() const { return m_first->records == 0; }
-
     /// The size of the file before the change, in bytes.
     qint64 originalSize() const { return qint64{m_first->originalPages} * m_first->pageSize; }
 
@@ -184,10 +182,7 @@ bool IsOwn(const HeldFile& file, const QByteArray& head, Journal& journal)
     const std::optional<QByteArray> before = journal.head();
     if (!before) {
         // The first page would be there if the file had grown, and a file shrinks only when the journal is done with.
-        return file.size() == journal.originalSize() && (journal.isEmpty() || IsSoundWithJournal(file));
-    }
-    if (file.size() < journal.originalSize()) {
-        return false;
+        return file.size() == journal.originalSize() && IsSoundWithJournal(file);
     }
     const quint32 counted = NumberAt(head, changeCounterPlace) - NumberAt(*before, changeCounterPlace);
     return counted == 0 ? head == *before : counted == 1 && IsSoundWithJournal(file);

@@ -37,6 +37,15 @@ protected:
                                .arg(said));
     }
 
+    /// A file that has as many pages as make() gives it, in another order.
+    void makeOther(const QString& more)
+    {
+        make("kept", 192);
+        Connection(path, OpenMode::ReadWrite)
+            .execute("BEGIN; CREATE TABLE u (a); INSERT INTO u SELECT a FROM t; COMMIT");
+        Connection(path, OpenMode::ReadWrite).execute(more);
+    }
+
     /// Runs statements in a program that ends in the middle of the last change, with pages of it in the file already.
     void dieIn(const QString& before, const QString& statements) const
     {
@@ -109,19 +118,10 @@ TEST_F(LeftJournal, AnotherFilesIsSetAside)
     const QByteArray jet = ReadWholeFile(TestData("jet/family-2.2/cats-2.2.kvf"));
     const std::tuple<const char*, std::function<void()>, std::function<void()>> cases[] = {
         {"an older copy", [this] { dieIn({}, grow); }, [this] { make("kept"); }},
-        {"a copy of another size", [this] { dieIn(first, change); }, [this] { make("kept", 900); }},
-        {"a copy of the same size", [this] { dieIn(first, change); },
-         [this] {
-             // The same pages in another order.
-             make("kept", 200);
-             Connection(path, OpenMode::ReadWrite).execute("CREATE TABLE u (a); INSERT INTO u SELECT a FROM t");
-         }},
-        {"a file that has counted one change more", [this] { dieIn({}, grow); },
-         [this] {
-             make("kept", 40);
-             SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE)
-                 .exec("UPDATE t SET a = a || 'x'; UPDATE t SET a = a || 'x'");
-         }},
+        {"a smaller file", [this] { dieIn(first, change); }, [this] { make("kept", 350); }},
+        {"a file of the same size", [this] { dieIn(first, change); }, [this] { makeOther(first); }},
+        {"a file that has counted as many changes", [this] { dieIn({}, grow); }, [this] { makeOther({}); }},
+        {"a file that has counted one change more", [this] { dieIn({}, grow); }, [this] { makeOther(first); }},
         {"a file of an earlier release", [this] { dieIn({}, grow); }, [this, jet] { WriteWholeFile(path, jet); }},
     };
     for (const auto& [what, die, replace] : cases) {
