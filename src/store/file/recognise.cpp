@@ -131,12 +131,13 @@ FileFormat RecogniseFormat(const QString& path)
 
 QString RequireFamilyFile(Connection& connection)
 {
-    RequireWholeLength(connection);
     if (!connection.hasTable(u"GenInfo")) {
         Refuse(QStringLiteral("It is not a family file."));
     }
     RequireNothingElse(connection, Indexes::Any);
     const QString version = StatedVersion(connection);
+    connection.keepInOneFile();
+    RequireWholeLength(connection);
     if (NeedsUpgrade(version)) {
         for (const QString& table : TablesOfVersion(version)) {
             if (!connection.hasTable(table)) {

@@ -108,6 +108,45 @@ TEST(FamilyFile, WhatIsNoFamilyFileIsRefusedAndTheOpenOneStaysOpen)
     }
 }
 
+TEST(FamilyFile, WhatIsNotOursStaysAsItIs)
+{
+    TestWorld world;
+    const QString family = world.newFamilyFile().path();
+    world.file.close();
+    const QString stranger = world.path("stranger.kvf");
+    enum class Log { Settled, Left };
+    const auto spread = [](const QString& path, const std::string& sql, Log log) {
+        const auto spreadIt = [&] {
+            SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+            database.exec("PRAGMA journal_mode=WAL; " + sql);
+            if (log == Log::Left) {
+                ::_exit(0);
+            }
+            return 0;
+        };
+        EXPECT_EQ(RunInOwnProcess(spreadIt), 0);
+    };
+    for (const Log log : {Log::Settled, Log::Left}) {
+        spread(stranger, "CREATE TABLE IF NOT EXISTS t (a); INSERT INTO t VALUES (1)", log);
+        const QByteArray before = ReadWholeFile(stranger);
+        const QStringList names = QDir(world.path({})).entryList(QDir::Files);
+        EXPECT_EQ(names.contains("stranger.kvf-wal"), log == Log::Left);
+        world.talk.expect(cannotOpen).expect(cannotCreate);
+        EXPECT_FALSE(OpenFamilyFile(world.file, stranger, world.environment));
+        // A file that cannot be created leaves the one whose place it was to take.
+        TestWorld broken;
+        ASSERT_TRUE(CreateFolderPath(broken.path("graphics/tree.gif")));
+        world.application = ApplicationFolder(broken.path({}));
+        EXPECT_FALSE(CreateFamilyFile(world.file, stranger, world.environment));
+        EXPECT_EQ(ReadWholeFile(stranger), before);
+        EXPECT_EQ(QDir(world.path({})).entryList(QDir::Files), names);
+    }
+    spread(family, "INSERT INTO Indi (Id) VALUES (1)", Log::Left);
+    ASSERT_TRUE(OpenFamilyFile(world.file, family, world.environment));
+    EXPECT_EQ(world.column("SELECT count(*) FROM Indi"), QStringList("1"));
+    EXPECT_EQ(world.column("PRAGMA journal_mode"), QStringList("delete"));
+}
+
 TEST(FamilyFile, PlacesThatHoldNoFileAreRefused)
 {
     TestWorld world;
