@@ -185,6 +185,17 @@ void ReplaceFile(const QString& from, const QString& to)
     SynchroniseFolder(QFileInfo(to).absolutePath());
 }
 
+QString FileItself(const QString& path)
+{
+    // As many links as the system follows; where they lead in a circle, no file will be found.
+    constexpr int mostLinks = 40;
+    QFileInfo place(path);
+    for (int links = 0; links < mostLinks && place.isSymLink(); ++links) {
+        place.setFile(place.symLinkTarget());
+    }
+    return place.absoluteFilePath();
+}
+
 bool IsSameFile(const QString& first, const QString& second)
 {
     struct stat left {

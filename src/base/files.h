@@ -31,6 +31,10 @@ void DiscardFile(const QString& path);
 /// power cut either the old or the new file stands there. Throws Error, and `to` is then as it was.
 void ReplaceFile(const QString& from, const QString& to);
 
+/// The place to which a path leads through whatever links, as a full path: a file that is put there, or made beside it,
+/// leaves the links as they are. There need be no file in that place.
+QString FileItself(const QString& path);
+
 /// Whether two paths lead to the same existing file, through whatever links.
 bool IsSameFile(const QString& first, const QString& second);
 

@@ -104,6 +104,11 @@ QString BackupPath(const QString& familyFile)
     return info.absoluteDir().filePath(info.completeBaseName() + backupExtension);
 }
 
+bool IsBackup(const QString& path)
+{
+    return FileItself(path).endsWith(backupExtension, Qt::CaseInsensitive);
+}
+
 QString BackupFamilyFile(Connection& connection)
 {
     QString target = BackupPath(connection.path());

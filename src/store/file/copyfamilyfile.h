@@ -23,6 +23,9 @@ void RequireOtherFile(const Connection& connection, const QString& target);
 /// Where the backup of a family file goes: the same folder and base name, the extension ".ffb".
 QString BackupPath(const QString& familyFile);
 
+/// Whether the file to which a path leads has a backup's extension.
+bool IsBackup(const QString& path);
+
 /// Copies the open family file to its backup, replacing an older one. Returns the backup's path. Must not be called
 /// within a transaction.
 QString BackupFamilyFile(Connection& connection);

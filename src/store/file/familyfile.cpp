@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/file/familyfile.h"
 
+#include "base/error.h"
 #include "base/files.h"
 #include "store/engine/engineerror.h"
 #include "store/engine/leftjournal.h"
@@ -28,15 +29,13 @@ void WriteNewFile(const QString& path, Environment& environment)
     transaction.commit();
 }
 
-/// The file that a link leads to, so that an upgrade replaces that one and not the link.
-QString FileItself(const QString& path)
-{
-    return QFileInfo(path).isSymLink() ? QFileInfo(path).canonicalFilePath() : path;
-}
-
 /// Opens a file after the upgrade that it may need; none when the user declined the upgrade.
 std::unique_ptr<Connection> OpenRecognised(const QString& path, const Environment& environment)
 {
+    // What is done in a backup would be gone with the next one.
+    if (IsBackup(path)) {
+        throw Error(QStringLiteral("It is a backup. Change its extension to \".kvf\" and open it then."));
+    }
     const FileFormat format = RecogniseFormat(path);
     if (const QStringList aside = SetForeignJournalsAside(path); !aside.isEmpty()) {
         environment.talk.tell(storemessages::JournalsSetAside(path, aside));
@@ -61,6 +60,9 @@ bool CreateFamilyFile(FamilyFile& file, const QString& path, Environment& enviro
 {
     const QString target = QFileInfo(path).absoluteFilePath();
     try {
+        if (IsBackup(target)) {
+            throw Error(QStringLiteral("Files with the extension \".ffb\" are backups. Choose \".kvf\"."));
+        }
         PrepareToReplace(target);
         UnfinishedFile unfinished(target);
         WriteNewFile(unfinished.path(), environment);

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "store/file/upgradefamilyfile.h"
 
-#include "base/error.h"
 #include "base/files.h"
 #include "store/file/copyfamilyfile.h"
 #include "store/file/recognise.h"
@@ -50,9 +49,6 @@ private:
     void backUp()
     {
         const QString target = BackupPath(m_old.path());
-        if (IsSameFile(target, m_old.path())) {
-            throw Error(QStringLiteral("It is a backup. Change its extension to \".kvf\" and open it then."));
-        }
         m_old.copyTo(target);
         m_backup = target;
         m_environment.talk.tell(upgrademessages::BackedUp(target));

@@ -60,8 +60,7 @@ TEST(CopyFamilyFile, ADamagedFileDoesNotReplaceAGoodCopy)
 TEST(CopyFamilyFile, TheOpenFileIsNeverItsOwnTarget)
 {
     TestWorld world;
-    ASSERT_TRUE(CreateFamilyFile(world.file, world.path("Family.ffb"), world.environment));
-    EXPECT_THROW(BackupFamilyFile(world.file.connection()), Error);
+    world.newFamilyFile();
     ASSERT_TRUE(QFile::link(world.file.path(), world.path("link.kvf")));
     EXPECT_THROW(CopyFamilyFile(world.file.connection(), world.path("link.kvf")), Error);
 }

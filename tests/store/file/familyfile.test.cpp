@@ -147,6 +147,22 @@ TEST(FamilyFile, WhatIsNotOursStaysAsItIs)
     EXPECT_EQ(world.column("PRAGMA journal_mode"), QStringList("delete"));
 }
 
+TEST(FamilyFile, NobodyWorksInABackup)
+{
+    TestWorld world;
+    const QString old = world.write("old.FFB", ReadWholeFile(TestData("jet/family-2.2/cats-2.2.kvf")));
+    const QString backup = world.write("new.ffb", NewFileBytes());
+    ASSERT_TRUE(QFile::link(backup, world.path("link.kvf")));
+    for (const QString& path : {old, backup, world.path("link.kvf")}) {
+        world.talk.expect(cannotOpen);
+        EXPECT_FALSE(OpenFamilyFile(world.file, path, world.environment));
+        EXPECT_TRUE(world.talk.shown().back().text.contains("It is a backup.")) << path;
+    }
+    world.talk.expect(cannotCreate);
+    EXPECT_FALSE(CreateFamilyFile(world.file, backup, world.environment));
+    EXPECT_EQ(ReadWholeFile(backup), NewFileBytes());
+}
+
 TEST(FamilyFile, PlacesThatHoldNoFileAreRefused)
 {
     TestWorld world;

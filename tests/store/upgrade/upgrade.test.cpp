@@ -272,16 +272,6 @@ TEST(UpgradeAnswers, DecideAboutTheBackup)
                   .arg(backup));
 }
 
-TEST(UpgradeAnswers, ABackupIsNotOverwrittenByItsOwnUpgrade)
-{
-    TestWorld world;
-    const QByteArray before = ReadWholeFile(CopyOfFixture(world, "2.2"));
-    const QString path = world.write("cats.ffb", before);
-    world.talk.expect(question, Button::Yes).expect(cannotOpen);
-    EXPECT_FALSE(OpenFamilyFile(world.file, path, world.environment));
-    EXPECT_EQ(ReadWholeFile(path), before);
-}
-
 TEST(UpgradeFailures, LeaveTheFileAsItWas)
 {
     for (const char* broken : {"no-geninfo", "truncated", "truncated-catalog"}) {
