@@ -4,6 +4,7 @@
 
 #include "base/error.h"
 
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -43,8 +44,8 @@ const QString cannotReplace = QStringLiteral("Cannot put the new file in the pla
 class Descriptor
 {
 public:
-    Descriptor(const QString& path, int flags)
-        : m_descriptor(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, 0666))
+    Descriptor(const QString& path, int flags, mode_t permissions = 0666)
+        : m_descriptor(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, permissions))
     {
     }
 
@@ -103,10 +104,37 @@ bool IsRunning(int process)
     return process > 0 && (::kill(process, 0) == 0 || errno == EPERM);
 }
 
+std::optional<unsigned> PermissionsOf(const QString& path)
+{
+    struct stat file {
+    };
+
+    return ::stat(QFile::encodeName(path).constData(), &file) == 0 ? std::optional<unsigned>(file.st_mode & 0777)
+                                                                   : std::nullopt;
+}
+
+/// The permissions that both files have, of those that there are.
+std::optional<unsigned> CommonPermissions(const QString& first, const QString& second)
+{
+    const std::optional<unsigned> left = PermissionsOf(first);
+    const std::optional<unsigned> right = PermissionsOf(second);
+    return left && right ? *left & *right : left ? left : right;
+}
+
+/// What the names of unfinished files begin with: the name of the file that is made, where that leaves room for more.
+QString BeginningOfUnfinished(const QFileInfo& target)
+{
+    constexpr qsizetype longestName = 150;
+    const QByteArray name = QFile::encodeName(target.fileName());
+    return name.size() <= longestName
+               ? target.fileName()
+               : QString::fromLatin1(QCryptographicHash::hash(name, QCryptographicHash::Sha1).toHex());
+}
+
 /// Removes what programs that no longer run left behind while they made the file `target`.
 void RemoveLeftovers(const QFileInfo& target)
 {
-    const QString begin = target.fileName() + u'.';
+    const QString begin = BeginningOfUnfinished(target) + u'.';
     const QString middle = QStringLiteral(".unfinished");
     const QDir folder = target.absoluteDir();
     const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
@@ -209,11 +237,18 @@ bool IsSameFile(const QString& first, const QString& second)
            left.st_ino == right.st_ino;
 }
 
-UnfinishedFile::UnfinishedFile(QString target)
-    : m_target(std::move(target)), m_path(QStringLiteral("%1.%2.unfinished").arg(m_target).arg(::getpid()))
+UnfinishedFile::UnfinishedFile(const QString& target, const QString& source)
+    : m_target(FileItself(target)), m_permissions(CommonPermissions(m_target, source))
 {
-    RemoveLeftovers(QFileInfo(m_target));
+    const QFileInfo place(m_target);
+    m_path = place.absoluteDir().filePath(
+        QStringLiteral("%1.%2.unfinished").arg(BeginningOfUnfinished(place)).arg(::getpid()));
+    RemoveLeftovers(place);
     QFile::remove(m_path);
+    const Descriptor made(m_path, O_WRONLY | O_CREAT | O_EXCL, m_permissions ? 0600 : 0666);
+    if (!made.isOpen()) {
+        FailWith(cannotWrite, m_path, errno);
+    }
 }
 
 UnfinishedFile::~UnfinishedFile()
@@ -223,6 +258,9 @@ UnfinishedFile::~UnfinishedFile()
 
 void UnfinishedFile::putInPlace()
 {
+    if (m_permissions && ::chmod(QFile::encodeName(m_path).constData(), *m_permissions) != 0) {
+        FailWith(cannotWrite, m_path, errno);
+    }
     ReplaceFile(m_path, m_target);
 }
 

@@ -5,6 +5,8 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+#include <optional>
+
 /// Files as wholes: reading, writing, and putting a finished file in its place in one step. Failures come as Error with
 /// the path and the system's reason. Stands on nothing but the error type.
 namespace stemwright
@@ -40,17 +42,19 @@ bool IsSameFile(const QString& first, const QString& second);
 
 /// A file that is being made beside its place: it has a name of its own there until putInPlace(), and is removed when
 /// that never comes. What a killed program left behind for the same place is removed by the next one; another program
-/// that is making the same file is left alone.
+/// that is making the same file is left alone. Whoever may not read the file that it replaces, or the one of which it
+/// is a copy, may not read this one either, at no time.
 class UnfinishedFile
 {
 public:
-    /// `target` is the place that the file will have. Creates nothing.
-    explicit UnfinishedFile(QString target);
+    /// Makes the file, empty. `target` is the place that it will have; where a link stands there, the file to which it
+    /// leads is meant. `source` is what the file will be a copy of, if it is one. Throws Error.
+    explicit UnfinishedFile(const QString& target, const QString& source = {});
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
     ~UnfinishedFile();
 
-    /// The place that the file will have.
+    /// The place that the file will have, without links.
     const QString& target() const { return m_target; }
 
     /// Where to write the file.
@@ -62,6 +66,8 @@ public:
 private:
     QString m_target;
     QString m_path;
+    /// The mode bits that the finished file gets; none for those of any new file.
+    std::optional<unsigned> m_permissions;
 };
 
 } // namespace stemwright

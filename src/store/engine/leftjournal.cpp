@@ -120,7 +120,7 @@ class Trial
 public:
     enum class With { Journal, NoJournal };
 
-    Trial(const HeldFile& file, With with) : m_copy(file.path() + QStringLiteral(".trial"))
+    Trial(const HeldFile& file, With with) : m_copy(file.path() + QStringLiteral(".trial"), file.path())
     {
         constexpr qint64 piece = 1 << 20;
         WriteWholeFile(m_copy.path(), {});
@@ -206,6 +206,20 @@ QString Renamed(const QString& path)
 QStringList CompanionsOf(const QString& path)
 {
     return {path + journalSuffix, path + logSuffix, path + QStringLiteral("-shm")};
+}
+
+void RequireUsablePath(const QString& path)
+{
+    // In bytes; the second is the engine's own limit.
+    constexpr qsizetype longestName = 255;
+    constexpr qsizetype longestPath = 511;
+    const QByteArray journal = QFile::encodeName(path + journalSuffix);
+    if (journal.size() - journal.lastIndexOf('/') - 1 > longestName) {
+        throw Error(QStringLiteral("The name of the file is too long. Please choose a shorter one."));
+    }
+    if (journal.size() > longestPath) {
+        throw Error(QStringLiteral("The path of the file is too long. Please choose a folder with a shorter one."));
+    }
 }
 
 QStringList SetForeignJournalsAside(const QString& path)

@@ -17,6 +17,10 @@ namespace stemwright
 /// The files that the engine may keep beside the one at `path`: its journal, its write-ahead log and that one's index.
 QStringList CompanionsOf(const QString& path);
 
+/// Makes sure that the path of a file is not too long for the engine, nor for the names of what it keeps beside the
+/// file; otherwise throws Error.
+void RequireUsablePath(const QString& path);
+
 /// Gives a journal and a write-ahead log beside the file at `path` that were not written for it other names, under
 /// which the engine does not find them; returns these, as full paths. Nothing is done while a program has the file
 /// open. Throws Error when a journal cannot be told to be the file's own or not, because the file is damaged either

@@ -60,12 +60,13 @@ void RequireOtherFile(const Connection& connection, const QString& target)
 
 void PrepareToReplace(const QString& path)
 {
-    const QFileInfo info(path);
+    const QFileInfo info(FileItself(path));
+    RequireUsablePath(info.filePath());
     RequireWritableFolder(info.absolutePath());
     if (!info.exists()) {
         return;
     }
-    const QString shown = QDir::toNativeSeparators(path);
+    const QString shown = QDir::toNativeSeparators(info.filePath());
     if (!info.isFile()) {
         throw Error(QStringLiteral("%1 is not a file.").arg(shown));
     }
@@ -89,7 +90,7 @@ void CopyFamilyFile(Connection& connection, const QString& target)
 {
     RequireOtherFile(connection, target);
     PrepareToReplace(target);
-    UnfinishedFile unfinished(target);
+    UnfinishedFile unfinished(target, connection.path());
     {
         SQLite::Database copy = OpenCopy(unfinished.path());
         SQLite::Backup(copy, connection.engine()).executeStep(-1);
@@ -100,7 +101,7 @@ void CopyFamilyFile(Connection& connection, const QString& target)
 
 QString BackupPath(const QString& familyFile)
 {
-    const QFileInfo info(familyFile);
+    const QFileInfo info(FileItself(familyFile));
     return info.absoluteDir().filePath(info.completeBaseName() + backupExtension);
 }
 

@@ -13,14 +13,15 @@
 namespace stemwright
 {
 
-/// Copies the open family file to `target`, replacing a file that stands there. Refuses to replace the open file itself
-/// and a file that another program has open. Must not be called within a transaction.
+/// Copies the open family file to `target`, or to where a link there leads, replacing a file that stands there. Refuses
+/// to replace the open file itself and a file that another program has open. Must not be called within a transaction.
 void CopyFamilyFile(Connection& connection, const QString& target);
 
 /// Throws Error when `target` is the open family file itself.
 void RequireOtherFile(const Connection& connection, const QString& target);
 
-/// Where the backup of a family file goes: the same folder and base name, the extension ".ffb".
+/// Where the backup of a family file goes: the same folder and base name, the extension ".ffb". Where the path is that
+/// of a link, they are those of the file itself.
 QString BackupPath(const QString& familyFile);
 
 /// Whether the file to which a path leads has a backup's extension.

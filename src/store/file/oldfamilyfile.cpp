@@ -42,7 +42,7 @@ public:
     void copyTo(const QString& target) const override
     {
         PrepareToReplace(target);
-        UnfinishedFile unfinished(target);
+        UnfinishedFile unfinished(target, path());
         WriteWholeFile(unfinished.path(), m_source->content());
         PutFamilyFileInPlace(unfinished);
     }

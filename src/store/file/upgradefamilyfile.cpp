@@ -10,9 +10,6 @@
 #include "store/upgrade/tablechanges.h"
 #include "store/upgrade/upgradesteps.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
-
 namespace stemwright
 {
 
@@ -56,7 +53,7 @@ private:
 
     void replace()
     {
-        UnfinishedFile work(m_old.path() + QStringLiteral(".old"));
+        UnfinishedFile work(m_old.path() + QStringLiteral(".old"), m_old.path());
         UnfinishedFile current(m_old.path());
         upgrade(work.path());
         WriteCurrentFile(current.path(), work.path(), m_environment.talk);
@@ -66,7 +63,6 @@ private:
         if (m_backup.isEmpty() && (replacesFormat || !m_leftBehind.isEmpty())) {
             backUp();
         }
-        QFile::setPermissions(current.path(), QFileInfo(m_old.path()).permissions());
         m_old.requireUnchanged();
         PutFamilyFileInPlace(current);
     }

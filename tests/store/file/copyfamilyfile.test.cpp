@@ -57,6 +57,33 @@ TEST(CopyFamilyFile, ADamagedFileDoesNotReplaceAGoodCopy)
     EXPECT_EQ(RowsOfCopy(backup, "UniqueIds"), 0);
 }
 
+TEST(CopyFamilyFile, CopiesGoWhereLinksLeadAndAreReadByNobodyElse)
+{
+    TestWorld world;
+    ASSERT_TRUE(CreateFolderPath(world.path("real")));
+    ASSERT_TRUE(QFile::link("real/Cats.kvf", world.path("link.kvf")));
+    ASSERT_TRUE(CreateFamilyFile(world.file, world.path("link.kvf"), world.environment));
+    const QString real = world.path("real/Cats.kvf");
+    const QFile::Permissions mine = QFile::ReadOwner | QFile::WriteOwner;
+    ASSERT_TRUE(QFile::setPermissions(real, mine));
+    EXPECT_EQ(BackupFamilyFile(world.connection()), world.path("real/Cats.ffb"));
+    ASSERT_TRUE(QFile::link("real/Copy.kvf", world.path("copy.kvf")));
+    CopyFamilyFile(world.connection(), world.path("copy.kvf"));
+    for (const char* name : {"real/Cats.kvf", "real/Cats.ffb", "real/Copy.kvf"}) {
+        const QFile::Permissions owner = QFile::ReadUser | QFile::WriteUser | mine;
+        EXPECT_EQ(QFile::permissions(world.path(name)) | owner, owner) << name;
+    }
+    EXPECT_EQ(QDir(world.path({})).entryList(QDir::Files | QDir::NoSymLinks), QStringList());
+    // Jet files are copied in another way.
+    const QString old = world.write("old.kvf", ReadWholeFile(TestData("jet/family-2.2.9930/cats-2.2.9930.kvf")));
+    ASSERT_TRUE(QFile::setPermissions(old, mine));
+    world.talk.expect("Creating Backup Family File");
+    ASSERT_TRUE(OpenFamilyFile(world.file, old, world.environment));
+    for (const char* name : {"old.kvf", "old.ffb"}) {
+        EXPECT_FALSE(QFile::permissions(world.path(name)) & (QFile::ReadGroup | QFile::ReadOther)) << name;
+    }
+}
+
 TEST(CopyFamilyFile, TheOpenFileIsNeverItsOwnTarget)
 {
     TestWorld world;

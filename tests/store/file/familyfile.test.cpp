@@ -167,7 +167,7 @@ TEST(FamilyFile, PlacesThatHoldNoFileAreRefused)
 {
     TestWorld world;
     ASSERT_TRUE(CreateFolderPath(world.path("folder")));
-    const auto expectRefused = [&world](auto procedure, const QString& title, const char* name, const char* reason) {
+    const auto expectRefused = [&world](auto procedure, const QString& title, const QString& name, const char* reason) {
         world.talk.expect(title);
         EXPECT_FALSE(procedure(world.file, world.path(name), world.environment)) << name;
         EXPECT_TRUE(world.talk.shown().back().text.contains(reason)) << reason;
@@ -176,6 +176,12 @@ TEST(FamilyFile, PlacesThatHoldNoFileAreRefused)
     expectRefused(OpenFamilyFile, cannotOpen, "folder", "is a folder");
     expectRefused(CreateFamilyFile, cannotCreate, "folder", "is not a file");
     expectRefused(CreateFamilyFile, cannotCreate, "nowhere/x.kvf", "no folder");
+    const QString longName(244, 'n');
+    expectRefused(CreateFamilyFile, cannotCreate, longName + ".kvf", "name of the file is too long");
+    world.write(longName + ".kvf", NewFileBytes());
+    expectRefused(OpenFamilyFile, cannotOpen, longName + ".kvf", "name of the file is too long");
+    EXPECT_TRUE(CreateFamilyFile(world.file, world.path(longName.first(240) + ".kvf"), world.environment));
+    world.file.close();
     EXPECT_FALSE(world.file.isOpen());
 }
 
