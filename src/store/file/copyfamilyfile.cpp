@@ -5,6 +5,9 @@
 #include "base/error.h"
 #include "store/engine/heldfile.h"
 #include "store/engine/leftjournal.h"
+#include "store/file/messages.h"
+#include "store/file/recognise.h"
+#include "store/jet/jetfile.h"
 
 #include <SQLiteCpp/Backup.h>
 
@@ -36,6 +39,54 @@ void RequireSound(SQLite::Database& copy)
         throw Error(QStringLiteral("The copy of the family file is not sound (%1). Please check the family file.")
                         .arg(QString::fromStdString(result)));
     }
+}
+
+/// Writes a copy of the open family file beside its place.
+void WriteCopy(Connection& connection, const UnfinishedFile& unfinished)
+{
+    SQLite::Database copy = OpenCopy(unfinished.path());
+    SQLite::Backup(copy, connection.engine()).executeStep(-1);
+    RequireSound(copy);
+}
+
+/// How many individuals a backup holds, of whatever release; none where that cannot be found out.
+qint64 IndividualsIn(const QString& backup)
+{
+    const QString table = QStringLiteral("Indi");
+    try {
+        if (RecogniseFormat(backup) == FileFormat::Jet) {
+            return JetFile(backup).table(table).rowCount;
+        }
+        SQLite::Database database(backup.toUtf8().constData(), SQLite::OPEN_READONLY);
+        return database.execAndGet("SELECT count(*) FROM Indi").getInt64();
+    } catch (const std::exception&) {
+        return 0;
+    }
+}
+
+/// A name that is free, and that is a backup's.
+QString NameOfKept(const QString& backup)
+{
+    const QFileInfo info(backup);
+    QString kept;
+    for (int number = 1; kept.isEmpty() || QFileInfo::exists(kept); ++number) {
+        const QString name = QStringLiteral("%1.kept-%2").arg(info.completeBaseName()).arg(number);
+        kept = info.absoluteDir().filePath(name + backupExtension);
+    }
+    return kept;
+}
+
+/// Gives the older backup another name where the tree has lost individuals since.
+void KeepLargerBackup(Connection& connection, const QString& backup, Talk& talk)
+{
+    if (IndividualsIn(backup) <= connection.countRows(QStringLiteral("Indi"))) {
+        return;
+    }
+    const QString kept = NameOfKept(backup);
+    if (!QFile::rename(backup, kept)) {
+        throw Error(QStringLiteral("The older backup, %1, cannot be kept under another name.").arg(backup));
+    }
+    talk.tell(storemessages::LargerBackupKept(backup, kept));
 }
 
 void RequireWritableFolder(const QString& path)
@@ -91,11 +142,7 @@ void CopyFamilyFile(Connection& connection, const QString& target)
     RequireOtherFile(connection, target);
     PrepareToReplace(target);
     UnfinishedFile unfinished(target, connection.path());
-    {
-        SQLite::Database copy = OpenCopy(unfinished.path());
-        SQLite::Backup(copy, connection.engine()).executeStep(-1);
-        RequireSound(copy);
-    }
+    WriteCopy(connection, unfinished);
     PutFamilyFileInPlace(unfinished);
 }
 
@@ -110,10 +157,15 @@ bool IsBackup(const QString& path)
     return FileItself(path).endsWith(backupExtension, Qt::CaseInsensitive);
 }
 
-QString BackupFamilyFile(Connection& connection)
+QString BackupFamilyFile(Connection& connection, Talk& talk)
 {
     QString target = BackupPath(connection.path());
-    CopyFamilyFile(connection, target);
+    RequireOtherFile(connection, target);
+    PrepareToReplace(target);
+    UnfinishedFile unfinished(target, connection.path());
+    WriteCopy(connection, unfinished);
+    KeepLargerBackup(connection, target, talk);
+    PutFamilyFileInPlace(unfinished);
     return target;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/files.h"
+#include "base/talk.h"
 #include "store/engine/connection.h"
 
 #include <QtCore/QString>
@@ -27,9 +28,10 @@ QString BackupPath(const QString& familyFile);
 /// Whether the file to which a path leads has a backup's extension.
 bool IsBackup(const QString& path);
 
-/// Copies the open family file to its backup, replacing an older one. Returns the backup's path. Must not be called
-/// within a transaction.
-QString BackupFamilyFile(Connection& connection);
+/// Copies the open family file to its backup, replacing an older one. Returns the backup's path. Where the older one
+/// holds more individuals - an import broke off since, which left half a tree - it is kept under another name, and the
+/// user is told which. Must not be called within a transaction.
+QString BackupFamilyFile(Connection& connection, Talk& talk);
 
 /// Makes sure that a file can be put at `path`: the folder is there and can be written, and a file that stands there is
 /// no folder, not write-protected and not open in any program. Changes nothing.

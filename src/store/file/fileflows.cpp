@@ -105,7 +105,7 @@ bool OpenTestDB(FamilyFile& file, Environment& environment)
         }
         Connection& connection = isOpen ? file.connection() : opened.connection();
         PlaceSitesOfSample(connection, environment.application.pagesFolder());
-        const QString backup = BackupFamilyFile(connection);
+        const QString backup = BackupFamilyFile(connection, environment.talk);
         environment.talk.tell(storemessages::OpeningTestFile(sample, backup));
         if (!isOpen) {
             file = std::move(opened);

@@ -53,6 +53,16 @@ Message JournalsSetAside(const QString& path, const QStringList& aside)
             Icon::Warning};
 }
 
+Message LargerBackupKept(const QString& backup, const QString& kept)
+{
+    return {QStringLiteral("Creating Backup Family File"),
+            QStringLiteral("The older backup, '%1', holds more individuals than your family file does now, as after an "
+                           "import that was stopped. Therefore it was kept under another name:\n\n%2\n\n"
+                           "If you will want to use it, you will have to change its extension to \".kvf\".")
+                .arg(QDir::toNativeSeparators(backup), QDir::toNativeSeparators(kept)),
+            Icon::Information};
+}
+
 Message ReplaceExisting(const QString& path)
 {
     return {{},

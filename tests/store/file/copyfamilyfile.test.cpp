@@ -38,22 +38,37 @@ TEST(CopyFamilyFile, TheBackupHoldsWhatTheOpenFileHolds)
 {
     TestWorld world;
     Connection& connection = world.newFamilyFile().connection();
-    const QString backup = BackupFamilyFile(connection);
+    const QString backup = BackupFamilyFile(connection, world.talk);
     EXPECT_EQ(backup, world.path("Family.ffb"));
     EXPECT_EQ(RowsOfCopy(backup, "Indi"), 0);
     connection.execute("INSERT INTO Indi (Id) VALUES (1)");
-    EXPECT_EQ(BackupFamilyFile(connection), backup);
+    EXPECT_EQ(BackupFamilyFile(connection, world.talk), backup);
     EXPECT_EQ(RowsOfCopy(backup, "Indi"), 1);
     EXPECT_EQ(QDir(world.path({})).entryList({"*unfinished*"}, QDir::Files), QStringList());
+}
+
+TEST(CopyFamilyFile, ALargerBackupOfAnyReleaseIsKept)
+{
+    TestWorld world;
+    world.newFamilyFile();
+    const QByteArray jet = ReadWholeFile(TestData("jet/family-2.2/cats-2.2.kvf"));
+    for (const char* kept : {"Family.kept-1.ffb", "Family.kept-2.ffb"}) {
+        world.write("Family.ffb", jet);
+        world.talk.expect("Creating Backup Family File");
+        EXPECT_EQ(RowsOfCopy(BackupFamilyFile(world.connection(), world.talk), "Indi"), 0);
+        EXPECT_EQ(ReadWholeFile(world.path(kept)), jet);
+    }
+    world.write("Family.ffb", "not a backup");
+    EXPECT_EQ(RowsOfCopy(BackupFamilyFile(world.connection(), world.talk), "Indi"), 0);
 }
 
 TEST(CopyFamilyFile, ADamagedFileDoesNotReplaceAGoodCopy)
 {
     TestWorld world;
     Connection& connection = world.newFamilyFile().connection();
-    const QString backup = BackupFamilyFile(connection);
+    const QString backup = BackupFamilyFile(connection, world.talk);
     connection.execute("PRAGMA ignore_check_constraints = 1; INSERT INTO UniqueIds VALUES (1, 7)");
-    EXPECT_THROW(BackupFamilyFile(connection), Error);
+    EXPECT_THROW(BackupFamilyFile(connection, world.talk), Error);
     EXPECT_EQ(RowsOfCopy(backup, "UniqueIds"), 0);
 }
 
@@ -66,7 +81,7 @@ TEST(CopyFamilyFile, CopiesGoWhereLinksLeadAndAreReadByNobodyElse)
     const QString real = world.path("real/Cats.kvf");
     const QFile::Permissions mine = QFile::ReadOwner | QFile::WriteOwner;
     ASSERT_TRUE(QFile::setPermissions(real, mine));
-    EXPECT_EQ(BackupFamilyFile(world.connection()), world.path("real/Cats.ffb"));
+    EXPECT_EQ(BackupFamilyFile(world.connection(), world.talk), world.path("real/Cats.ffb"));
     ASSERT_TRUE(QFile::link("real/Copy.kvf", world.path("copy.kvf")));
     CopyFamilyFile(world.connection(), world.path("copy.kvf"));
     for (const char* name : {"real/Cats.kvf", "real/Cats.ffb", "real/Copy.kvf"}) {
