@@ -172,6 +172,9 @@ bool CreateFolderPath(const QString& path)
 
 QByteArray ReadWholeFile(const QString& path)
 {
+    if (const QFileInfo info(path); info.exists() && !info.isFile()) {
+        Fail(cannotRead, path, QStringLiteral("It is not a file but a folder or device"));
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         Fail(cannotRead, path, file.errorString());

@@ -15,7 +15,8 @@ namespace stemwright
 /// Creates every missing folder along a path, upper folders first. False when one cannot be created.
 bool CreateFolderPath(const QString& path);
 
-/// The whole content of a file. Throws Error with the path and the system's reason.
+/// The whole content of a file. Throws Error with the path and the system's reason, also for what is no plain file: a
+/// pipe may never begin, and a device never end.
 QByteArray ReadWholeFile(const QString& path);
 
 /// Creates or overwrites a file with one write. Throws Error with the path and the system's reason (full disk,
