@@ -26,18 +26,9 @@ namespace stemwright
 namespace
 {
 
-const QString cannotRead = QStringLiteral("Cannot read file %1: %2.");
-const QString cannotWrite = QStringLiteral("Cannot write file %1: %2.");
-const QString cannotReplace = QStringLiteral("Cannot put the new file in the place of %1: %2.");
-
-[[noreturn]] void Fail(const QString& text, const QString& path, const QString& reason)
+QString ReasonOf(int error)
 {
-    throw Error(text.arg(QDir::toNativeSeparators(path), reason));
-}
-
-[[noreturn]] void FailWith(const QString& text, const QString& path, int error)
-{
-    Fail(text, path, QString::fromLocal8Bit(std::strerror(error)));
+    return QString::fromLocal8Bit(std::strerror(error));
 }
 
 /// A file descriptor that is closed when it goes out of scope; an error of closing is seen only through close().
@@ -85,7 +76,7 @@ void SynchroniseFile(const QString& path)
 {
     Descriptor descriptor(path, O_RDONLY);
     if (!descriptor.isOpen() || ::fsync(descriptor.number()) != 0 || !descriptor.close()) {
-        FailWith(cannotWrite, path, errno);
+        FailToWrite(path, ReasonOf(errno));
     }
 }
 
@@ -154,12 +145,12 @@ void WriteOut(const QString& path, int flags, const QByteArray& content)
 {
     Descriptor descriptor(path, O_WRONLY | flags);
     if (!descriptor.isOpen()) {
-        FailWith(cannotWrite, path, errno);
+        FailToWrite(path, ReasonOf(errno));
     }
     if (!WriteAll(descriptor, content) || !descriptor.close()) {
         const int error = errno;
         DiscardFile(path);
-        FailWith(cannotWrite, path, error);
+        FailToWrite(path, ReasonOf(error));
     }
 }
 
@@ -173,11 +164,11 @@ bool CreateFolderPath(const QString& path)
 QByteArray ReadWholeFile(const QString& path)
 {
     if (const QFileInfo info(path); info.exists() && !info.isFile()) {
-        Fail(cannotRead, path, QStringLiteral("It is not a file but a folder or device"));
+        FailToRead(path, QStringLiteral("it is not a file but a folder, pipe or device"));
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        Fail(cannotRead, path, file.errorString());
+        FailToRead(path, file.errorString());
     }
     QByteArray content = file.readAll();
     // A disk that fails in the middle makes the first read short, and only the next one an error.
@@ -185,7 +176,7 @@ QByteArray ReadWholeFile(const QString& path)
         content += file.readAll();
     }
     if (file.error() != QFileDevice::NoError) {
-        Fail(cannotRead, path, file.errorString());
+        FailToRead(path, file.errorString());
     }
     return content;
 }
@@ -200,6 +191,16 @@ void AppendToFile(const QString& path, const QByteArray& content)
     WriteOut(path, O_APPEND, content);
 }
 
+void FailToRead(const QString& path, const QString& reason)
+{
+    throw Error(QStringLiteral("Cannot read file %1: %2.").arg(QDir::toNativeSeparators(path), reason));
+}
+
+void FailToWrite(const QString& path, const QString& reason)
+{
+    throw Error(QStringLiteral("Cannot write file %1: %2.").arg(QDir::toNativeSeparators(path), reason));
+}
+
 void DiscardFile(const QString& path)
 {
     if (QFileInfo(path).isFile()) {
@@ -211,7 +212,8 @@ void ReplaceFile(const QString& from, const QString& to)
 {
     SynchroniseFile(from);
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0) {
-        FailWith(cannotReplace, to, errno);
+        throw Error(QStringLiteral("Cannot put the new file in the place of %1: %2.")
+                        .arg(QDir::toNativeSeparators(to), ReasonOf(errno)));
     }
     SynchroniseFolder(QFileInfo(to).absolutePath());
 }
@@ -250,7 +252,7 @@ UnfinishedFile::UnfinishedFile(const QString& target, const QString& source)
     QFile::remove(m_path);
     const Descriptor made(m_path, O_WRONLY | O_CREAT | O_EXCL, m_permissions ? 0600 : 0666);
     if (!made.isOpen()) {
-        FailWith(cannotWrite, m_path, errno);
+        FailToWrite(m_path, ReasonOf(errno));
     }
 }
 
@@ -262,7 +264,7 @@ UnfinishedFile::~UnfinishedFile()
 void UnfinishedFile::putInPlace()
 {
     if (m_permissions && ::chmod(QFile::encodeName(m_path).constData(), *m_permissions) != 0) {
-        FailWith(cannotWrite, m_path, errno);
+        FailToWrite(m_path, ReasonOf(errno));
     }
     ReplaceFile(m_path, m_target);
 }

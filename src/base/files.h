@@ -26,6 +26,10 @@ void WriteWholeFile(const QString& path, const QByteArray& content);
 /// Appends to a file that WriteWholeFile() has begun; fails in the same way.
 void AppendToFile(const QString& path, const QByteArray& content);
 
+/// The Errors of these procedures, for whoever reads or writes a file piece by piece.
+[[noreturn]] void FailToRead(const QString& path, const QString& reason);
+[[noreturn]] void FailToWrite(const QString& path, const QString& reason);
+
 /// Removes what was written of a file that did not become whole. Only a plain file is removed: a device, which a user
 /// may well name as a target, stays.
 void DiscardFile(const QString& path);
