@@ -28,6 +28,8 @@ constexpr qsizetype headSize = 100;
 constexpr qsizetype writeFormatPlace = 18;
 constexpr char logFormat = 2;
 constexpr qsizetype changeCounterPlace = 24;
+/// The change with which the number of pages was written down.
+constexpr qsizetype pageCountChangePlace = 92;
 
 // Records of a journal are a page's number, its bytes and a checksum; they stand in segments, each with a head that
 // fills a sector.
@@ -206,6 +208,32 @@ QString Renamed(const QString& path)
 QStringList CompanionsOf(const QString& path)
 {
     return {path + journalSuffix, path + logSuffix, path + QStringLiteral("-shm")};
+}
+
+void CountChangesFromContent(const QString& path)
+{
+    constexpr qint64 piece = 1 << 20;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite)) {
+        FailToWrite(path, file.errorString());
+    }
+    if (!IsDatabaseHead(file.peek(headSize))) {
+        return;
+    }
+    std::size_t sum = 0;
+    for (QByteArray bytes = file.read(piece); !bytes.isEmpty(); bytes = file.read(piece)) {
+        sum = qHash(bytes, sum);
+    }
+    QByteArray number(sizeof(quint32), Qt::Uninitialized);
+    qToBigEndian(static_cast<quint32>(sum), number.data());
+    for (const qsizetype place : {changeCounterPlace, pageCountChangePlace}) {
+        if (!file.seek(place) || file.write(number) != number.size()) {
+            FailToWrite(path, file.errorString());
+        }
+    }
+    if (!file.flush()) {
+        FailToWrite(path, file.errorString());
+    }
 }
 
 void RequireUsablePath(const QString& path)

@@ -17,6 +17,11 @@ namespace stemwright
 /// The files that the engine may keep beside the one at `path`: its journal, its write-ahead log and that one's index.
 QStringList CompanionsOf(const QString& path);
 
+/// Lets a new database file count its changes from a number that comes of its content. All files that are made in the
+/// same way would count from the same number otherwise, and the journal of one would seem to be that of another. Must
+/// not be called while the file is open. A file of another kind stays as it is.
+void CountChangesFromContent(const QString& path);
+
 /// Makes sure that the path of a file is not too long for the engine, nor for the names of what it keeps beside the
 /// file; otherwise throws Error.
 void RequireUsablePath(const QString& path);

@@ -131,6 +131,7 @@ void PrepareToReplace(const QString& path)
 
 void PutFamilyFileInPlace(UnfinishedFile& file)
 {
+    CountChangesFromContent(file.path());
     for (const QString& companion : CompanionsOf(file.target())) {
         QFile::remove(companion);
     }

@@ -251,6 +251,7 @@ TEST(FamilyFile, AJournalThatWasLeftBehindIsNotPlayedIntoTheFileThatComes)
     world.execute("INSERT INTO Indi (Id) VALUES (1), (2)");
     ASSERT_TRUE(SaveFamilyFileAs(world.file, world.path("older.kvf"), world.environment));
     world.execute("INSERT INTO Indi (Id) VALUES (3)");
+    ASSERT_TRUE(SaveFamilyFileAs(world.file, world.path("latest.kvf"), world.environment));
     world.file.close();
     const QByteArray left = JournalOfAKilledImport(path);
     const QByteArray older = ReadWholeFile(world.path("older.kvf"));
@@ -266,6 +267,14 @@ TEST(FamilyFile, AJournalThatWasLeftBehindIsNotPlayedIntoTheFileThatComes)
     world.talk.expect(opening);
     ASSERT_TRUE(OpenFamilyFile(world.file, path, world.environment)) << "a backup that was put back";
     EXPECT_TRUE(world.talk.shown().back().text.contains(path + "-journal-of-another-file"));
+    expectPeople("2");
+
+    WriteWholeFile(path, ReadWholeFile(world.path("latest.kvf")));
+    const QByteArray leftByLatest = JournalOfAKilledImport(path);
+    WriteWholeFile(path, older);
+    WriteWholeFile(path + "-journal", leftByLatest);
+    world.talk.expect(opening);
+    ASSERT_TRUE(OpenFamilyFile(world.file, path, world.environment)) << "another copy of the same size and age";
     expectPeople("2");
 
     WriteWholeFile(path, jet);
