@@ -230,17 +230,26 @@ ImageStructure StructureOfGif(Walker& walker)
 
 } // namespace
 
+std::optional<ImageFormat> ClaimedFormat(const QByteArray& beginning)
+{
+    if (beginning.startsWith("\xFF\xD8\xFF")) {
+        return ImageFormat::Jpeg;
+    }
+    if (beginning.startsWith("GIF87a") || beginning.startsWith("GIF89a")) {
+        return ImageFormat::Gif;
+    }
+    return std::nullopt;
+}
+
 ImageStructure StructureOfImage(const QByteArray& bytes)
 {
+    const std::optional<ImageFormat> format = ClaimedFormat(bytes);
+    if (!format) {
+        throw Error(bytes.isEmpty() ? QStringLiteral("The file is empty.")
+                                    : QStringLiteral("It is neither a GIF nor a JPEG picture."));
+    }
     Walker walker(bytes);
-    if (bytes.startsWith("\xFF\xD8\xFF")) {
-        return StructureOfJpeg(walker);
-    }
-    if (bytes.startsWith("GIF87a") || bytes.startsWith("GIF89a")) {
-        return StructureOfGif(walker);
-    }
-    throw Error(bytes.isEmpty() ? QStringLiteral("The file is empty.")
-                                : QStringLiteral("It is neither a GIF nor a JPEG picture."));
+    return *format == ImageFormat::Jpeg ? StructureOfJpeg(walker) : StructureOfGif(walker);
 }
 
 } // namespace stemwright

@@ -5,6 +5,8 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QSize>
 
+#include <optional>
+
 /// What the bytes of a picture file say about themselves, found by walking their structure without decoding a pixel.
 /// The walk goes to the end of the picture, so that a file that was cut off is noticed, which decoders forgive; it
 /// costs little more than reading the bytes. A file that is no whole GIF (87a, 89a) or JPEG (ISO 10918) is refused with
@@ -13,6 +15,10 @@ namespace stemwright
 {
 
 enum class ImageFormat { Gif, Jpeg };
+
+/// What a file that begins with these bytes (6 are enough) claims to be; none when that is no picture. Nothing else of
+/// it is looked at.
+std::optional<ImageFormat> ClaimedFormat(const QByteArray& beginning);
 
 struct ImageStructure {
     ImageFormat format = ImageFormat::Jpeg;

@@ -57,14 +57,6 @@ private:
     sqlite3_blob* m_blob = nullptr;
 };
 
-const QString cannotRead = QStringLiteral("Cannot read file %1: %2.");
-const QString cannotWrite = QStringLiteral("Cannot write file %1: %2.");
-
-[[noreturn]] void FailWith(const QString& text, const QFile& file)
-{
-    throw Error(text.arg(QDir::toNativeSeparators(file.fileName()), file.errorString()));
-}
-
 ColumnType TypeOf(const BlobField& field)
 {
     const ColumnDefinition* column = FindColumn(TableNamed(field.table), field.column);
@@ -101,7 +93,7 @@ void LoadText(Connection& connection, QFile& file, const BlobField& field)
 {
     const QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError) {
-        FailWith(cannotRead, file);
+        FailToRead(file.fileName(), file.errorString());
     }
     Statement statement = connection.prepare(
         QStringLiteral("UPDATE \"%1\" SET \"%2\" = ?1 WHERE rowid = ?2").arg(field.table, field.column));
@@ -121,7 +113,7 @@ void LoadBytes(Connection& connection, QFile& file, const BlobField& field)
     for (int done = 0; done < size;) {
         const int length = static_cast<int>(file.read(buffer.data(), std::min(blobChunkSize, size - done)));
         if (length <= 0) {
-            FailWith(cannotRead, file);
+            FailToRead(file.fileName(), file.errorString());
         }
         blob.write(buffer.data(), length, done);
         done += length;
@@ -136,7 +128,7 @@ void SaveBytes(Connection& connection, const BlobField& field, QFile& file)
         const int length = std::min(blobChunkSize, blob.size() - done);
         blob.read(buffer.data(), length, done);
         if (file.write(buffer.data(), length) != length) {
-            FailWith(cannotWrite, file);
+            FailToWrite(file.fileName(), file.errorString());
         }
         done += length;
     }
@@ -148,7 +140,7 @@ void LoadFileIntoField(Connection& connection, const QString& fileName, const Bl
 {
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly)) {
-        FailWith(cannotRead, file);
+        FailToRead(file.fileName(), file.errorString());
     }
     HoldsValue(connection, field);
     const ColumnType type = TypeOf(field);
@@ -164,7 +156,7 @@ void SaveFieldToFile(Connection& connection, const BlobField& field, const QStri
     const bool copies = HoldsValue(connection, field) && IsLong(TypeOf(field));
     QFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        FailWith(cannotWrite, file);
+        FailToWrite(file.fileName(), file.errorString());
     }
     try {
         if (copies) {
@@ -172,7 +164,7 @@ void SaveFieldToFile(Connection& connection, const BlobField& field, const QStri
         }
         file.close();
         if (file.error() != QFileDevice::NoError) {
-            FailWith(cannotWrite, file);
+            FailToWrite(file.fileName(), file.errorString());
         }
     } catch (const std::exception&) {
         file.close();

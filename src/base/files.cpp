@@ -4,6 +4,7 @@
 
 #include "base/error.h"
 
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -25,26 +26,17 @@ namespace stemwright
 namespace
 {
 
-const QString cannotRead = QStringLiteral("Cannot read file %1: %2.");
-const QString cannotWrite = QStringLiteral("Cannot write file %1: %2.");
-const QString cannotReplace = QStringLiteral("Cannot put the new file in the place of %1: %2.");
-
-[[noreturn]] void Fail(const QString& text, const QString& path, const QString& reason)
+QString ReasonOf(int error)
 {
-    throw Error(text.arg(QDir::toNativeSeparators(path), reason));
-}
-
-[[noreturn]] void FailWith(const QString& text, const QString& path, int error)
-{
-    Fail(text, path, QString::fromLocal8Bit(std::strerror(error)));
+    return QString::fromLocal8Bit(std::strerror(error));
 }
 
 /// A file descriptor that is closed when it goes out of scope; an error of closing is seen only through close().
 class Descriptor
 {
 public:
-    Descriptor(const QString& path, int flags)
-        : m_descriptor(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, 0666))
+    Descriptor(const QString& path, int flags, mode_t permissions = 0666)
+        : m_descriptor(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC, permissions))
     {
     }
 
@@ -84,7 +76,7 @@ void SynchroniseFile(const QString& path)
 {
     Descriptor descriptor(path, O_RDONLY);
     if (!descriptor.isOpen() || ::fsync(descriptor.number()) != 0 || !descriptor.close()) {
-        FailWith(cannotWrite, path, errno);
+        FailToWrite(path, ReasonOf(errno));
     }
 }
 
@@ -103,10 +95,37 @@ bool IsRunning(int process)
     return process > 0 && (::kill(process, 0) == 0 || errno == EPERM);
 }
 
+std::optional<unsigned> PermissionsOf(const QString& path)
+{
+    struct stat file {
+    };
+
+    return ::stat(QFile::encodeName(path).constData(), &file) == 0 ? std::optional<unsigned>(file.st_mode & 0777)
+                                                                   : std::nullopt;
+}
+
+/// The permissions that both files have, of those that there are.
+std::optional<unsigned> CommonPermissions(const QString& first, const QString& second)
+{
+    const std::optional<unsigned> left = PermissionsOf(first);
+    const std::optional<unsigned> right = PermissionsOf(second);
+    return left && right ? *left & *right : left ? left : right;
+}
+
+/// What the names of unfinished files begin with: the name of the file that is made, where that leaves room for more.
+QString BeginningOfUnfinished(const QFileInfo& target)
+{
+    constexpr qsizetype longestName = 150;
+    const QByteArray name = QFile::encodeName(target.fileName());
+    return name.size() <= longestName
+               ? target.fileName()
+               : QString::fromLatin1(QCryptographicHash::hash(name, QCryptographicHash::Sha1).toHex());
+}
+
 /// Removes what programs that no longer run left behind while they made the file `target`.
 void RemoveLeftovers(const QFileInfo& target)
 {
-    const QString begin = target.fileName() + u'.';
+    const QString begin = BeginningOfUnfinished(target) + u'.';
     const QString middle = QStringLiteral(".unfinished");
     const QDir folder = target.absoluteDir();
     const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
@@ -126,12 +145,12 @@ void WriteOut(const QString& path, int flags, const QByteArray& content)
 {
     Descriptor descriptor(path, O_WRONLY | flags);
     if (!descriptor.isOpen()) {
-        FailWith(cannotWrite, path, errno);
+        FailToWrite(path, ReasonOf(errno));
     }
     if (!WriteAll(descriptor, content) || !descriptor.close()) {
         const int error = errno;
         DiscardFile(path);
-        FailWith(cannotWrite, path, error);
+        FailToWrite(path, ReasonOf(error));
     }
 }
 
@@ -144,9 +163,12 @@ bool CreateFolderPath(const QString& path)
 
 QByteArray ReadWholeFile(const QString& path)
 {
+    if (const QFileInfo info(path); info.exists() && !info.isFile()) {
+        FailToRead(path, QStringLiteral("it is not a file but a folder, pipe or device"));
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        Fail(cannotRead, path, file.errorString());
+        FailToRead(path, file.errorString());
     }
     QByteArray content = file.readAll();
     // A disk that fails in the middle makes the first read short, and only the next one an error.
@@ -154,7 +176,7 @@ QByteArray ReadWholeFile(const QString& path)
         content += file.readAll();
     }
     if (file.error() != QFileDevice::NoError) {
-        Fail(cannotRead, path, file.errorString());
+        FailToRead(path, file.errorString());
     }
     return content;
 }
@@ -169,6 +191,16 @@ void AppendToFile(const QString& path, const QByteArray& content)
     WriteOut(path, O_APPEND, content);
 }
 
+void FailToRead(const QString& path, const QString& reason)
+{
+    throw Error(QStringLiteral("Cannot read file %1: %2.").arg(QDir::toNativeSeparators(path), reason));
+}
+
+void FailToWrite(const QString& path, const QString& reason)
+{
+    throw Error(QStringLiteral("Cannot write file %1: %2.").arg(QDir::toNativeSeparators(path), reason));
+}
+
 void DiscardFile(const QString& path)
 {
     if (QFileInfo(path).isFile()) {
@@ -180,9 +212,21 @@ void ReplaceFile(const QString& from, const QString& to)
 {
     SynchroniseFile(from);
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0) {
-        FailWith(cannotReplace, to, errno);
+        throw Error(QStringLiteral("Cannot put the new file in the place of %1: %2.")
+                        .arg(QDir::toNativeSeparators(to), ReasonOf(errno)));
     }
     SynchroniseFolder(QFileInfo(to).absolutePath());
+}
+
+QString FileItself(const QString& path)
+{
+    // As many links as the system follows; where they lead in a circle, no file will be found.
+    constexpr int mostLinks = 40;
+    QFileInfo place(path);
+    for (int links = 0; links < mostLinks && place.isSymLink(); ++links) {
+        place.setFile(place.symLinkTarget());
+    }
+    return place.absoluteFilePath();
 }
 
 bool IsSameFile(const QString& first, const QString& second)
@@ -198,11 +242,18 @@ bool IsSameFile(const QString& first, const QString& second)
            left.st_ino == right.st_ino;
 }
 
-UnfinishedFile::UnfinishedFile(QString target)
-    : m_target(std::move(target)), m_path(QStringLiteral("%1.%2.unfinished").arg(m_target).arg(::getpid()))
+UnfinishedFile::UnfinishedFile(const QString& target, const QString& source)
+    : m_target(FileItself(target)), m_permissions(CommonPermissions(m_target, source))
 {
-    RemoveLeftovers(QFileInfo(m_target));
+    const QFileInfo place(m_target);
+    m_path = place.absoluteDir().filePath(
+        QStringLiteral("%1.%2.unfinished").arg(BeginningOfUnfinished(place)).arg(::getpid()));
+    RemoveLeftovers(place);
     QFile::remove(m_path);
+    const Descriptor made(m_path, O_WRONLY | O_CREAT | O_EXCL, m_permissions ? 0600 : 0666);
+    if (!made.isOpen()) {
+        FailToWrite(m_path, ReasonOf(errno));
+    }
 }
 
 UnfinishedFile::~UnfinishedFile()
@@ -212,6 +263,9 @@ UnfinishedFile::~UnfinishedFile()
 
 void UnfinishedFile::putInPlace()
 {
+    if (m_permissions && ::chmod(QFile::encodeName(m_path).constData(), *m_permissions) != 0) {
+        FailToWrite(m_path, ReasonOf(errno));
+    }
     ReplaceFile(m_path, m_target);
 }
 

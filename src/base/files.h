@@ -5,6 +5,8 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+#include <optional>
+
 /// Files as wholes: reading, writing, and putting a finished file in its place in one step. Failures come as Error with
 /// the path and the system's reason. Stands on nothing but the error type.
 namespace stemwright
@@ -13,7 +15,8 @@ namespace stemwright
 /// Creates every missing folder along a path, upper folders first. False when one cannot be created.
 bool CreateFolderPath(const QString& path);
 
-/// The whole content of a file. Throws Error with the path and the system's reason.
+/// The whole content of a file. Throws Error with the path and the system's reason, also for what is no plain file: a
+/// pipe may never begin, and a device never end.
 QByteArray ReadWholeFile(const QString& path);
 
 /// Creates or overwrites a file with one write. Throws Error with the path and the system's reason (full disk,
@@ -23,6 +26,10 @@ void WriteWholeFile(const QString& path, const QByteArray& content);
 /// Appends to a file that WriteWholeFile() has begun; fails in the same way.
 void AppendToFile(const QString& path, const QByteArray& content);
 
+/// The Errors of these procedures, for whoever reads or writes a file piece by piece.
+[[noreturn]] void FailToRead(const QString& path, const QString& reason);
+[[noreturn]] void FailToWrite(const QString& path, const QString& reason);
+
 /// Removes what was written of a file that did not become whole. Only a plain file is removed: a device, which a user
 /// may well name as a target, stays.
 void DiscardFile(const QString& path);
@@ -31,20 +38,29 @@ void DiscardFile(const QString& path);
 /// power cut either the old or the new file stands there. Throws Error, and `to` is then as it was.
 void ReplaceFile(const QString& from, const QString& to);
 
+/// The place to which a path leads through whatever links, as a full path: a file that is put there, or made beside it,
+/// leaves the links as they are. There need be no file in that place.
+QString FileItself(const QString& path);
+
 /// Whether two paths lead to the same existing file, through whatever links.
 bool IsSameFile(const QString& first, const QString& second);
 
 /// A file that is being made beside its place: it has a name of its own there until putInPlace(), and is removed when
 /// that never comes. What a killed program left behind for the same place is removed by the next one; another program
-/// that is making the same file is left alone.
+/// that is making the same file is left alone. Whoever may not read the file that it replaces, or the one of which it
+/// is a copy, may not read this one either, at no time.
 class UnfinishedFile
 {
 public:
-    /// `target` is the place that the file will have. Creates nothing.
-    explicit UnfinishedFile(QString target);
+    /// Makes the file, empty. `target` is the place that it will have; where a link stands there, the file to which it
+    /// leads is meant. `source` is what the file will be a copy of, if it is one. Throws Error.
+    explicit UnfinishedFile(const QString& target, const QString& source = {});
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
     ~UnfinishedFile();
+
+    /// The place that the file will have, without links.
+    const QString& target() const { return m_target; }
 
     /// Where to write the file.
     const QString& path() const { return m_path; }
@@ -55,6 +71,8 @@ public:
 private:
     QString m_target;
     QString m_path;
+    /// The mode bits that the finished file gets; none for those of any new file.
+    std::optional<unsigned> m_permissions;
 };
 
 } // namespace stemwright

@@ -28,7 +28,7 @@ QString StoredGedcomPath(Connection& connection)
 bool PrepareToReplaceTree(Connection& connection, const QString& path, const QString& stored, Talk& talk)
 {
     talk.tell(gedcommessages::CreatingBackup());
-    BackupFamilyFile(connection);
+    BackupFamilyFile(connection, talk);
     return stored.isEmpty() || stored.compare(path, Qt::CaseInsensitive) == 0 ||
            talk.ask(gedcommessages::FileConflict(path, stored)) == Button::Yes;
 }

@@ -5,8 +5,12 @@
 // lack, and each fault comes at an exact byte. The environment says what happens to files below the folder
 // FAULTY_DISK_FOLDER:
 //   FAULTY_DISK=full        files stop growing, with ENOSPC, once they grew by FAULTY_DISK_AFTER bytes in all
+//   FAULTY_DISK=broken      writing and flushing fail with EIO once FAULTY_DISK_AFTER bytes were written, as on a stick
+//                           that was pulled out
 //   FAULTY_DISK=unreadable  reading fails with EIO once FAULTY_DISK_AFTER bytes were read
 //   FAULTY_DISK=readonly    whatever would change something fails with EROFS
+// With any of them or none, FAULTY_DISK_LOG names a file that gets a line for each file which is flushed to the disk
+// ("flush PATH") or renamed ("rename FROM TO").
 
 #include <algorithm>
 #include <atomic>
@@ -28,7 +32,7 @@
 namespace
 {
 
-enum class Fault { None, Full, Unreadable, ReadOnly };
+enum class Fault { None, Full, Broken, Unreadable, ReadOnly };
 
 struct Disk {
     Fault fault = Fault::None;
@@ -40,6 +44,7 @@ Fault FaultNamed(const char* name)
 {
     const std::string_view text = name != nullptr ? name : "";
     return text == "full"         ? Fault::Full
+           : text == "broken"     ? Fault::Broken
            : text == "unreadable" ? Fault::Unreadable
            : text == "readonly"   ? Fault::ReadOnly
                                   : Fault::None;
@@ -57,11 +62,16 @@ bool IsOnDisk(const char* path)
     return std::string_view(path).starts_with(TheDisk().folder);
 }
 
-bool IsOnDisk(int descriptor)
+std::string PathOf(int descriptor)
 {
     char target[4096] = {};
     const std::string link = "/proc/self/fd/" + std::to_string(descriptor);
-    return ::readlink(link.c_str(), target, sizeof target - 1) > 0 && IsOnDisk(target);
+    return ::readlink(link.c_str(), target, sizeof target - 1) > 0 ? target : "";
+}
+
+bool IsOnDisk(int descriptor)
+{
+    return IsOnDisk(PathOf(descriptor).c_str());
 }
 
 /// How many of `count` bytes the disk still takes or gives; sets errno when it is none at all.
@@ -79,12 +89,34 @@ size_t Allowed(Fault fault, int error, int descriptor, size_t count)
     return static_cast<size_t>(given);
 }
 
+/// The function that stands behind the one of this library.
+template <typename Function>
+Function* Real(Function*, const char* name)
+{
+    return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
+}
+
+// Each name is that of the function which it stands before.
+#define REAL(name) Real(&name, #name)
+
+void Note(const std::string& line)
+{
+    if (const char* log = std::getenv("FAULTY_DISK_LOG")) {
+        const int file = REAL(open)(log, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
+        [[maybe_unused]] const ssize_t written = REAL(write)(file, (line + '\n').c_str(), line.size() + 1);
+        ::close(file);
+    }
+}
+
 /// A full disk still takes what is written over bytes that a file has already.
 size_t Writable(int descriptor, size_t count, off64_t offset)
 {
     struct stat64 file {
     };
 
+    if (TheDisk().fault == Fault::Broken) {
+        return Allowed(Fault::Broken, EIO, descriptor, count);
+    }
     if (TheDisk().fault != Fault::Full || ::fstat64(descriptor, &file) != 0) {
         return count;
     }
@@ -114,22 +146,26 @@ bool IsRefused(const char* path)
     return refused;
 }
 
-/// The function that stands behind the one of this library.
-template <typename Function>
-Function* Real(Function*, const char* name)
-{
-    return reinterpret_cast<Function*>(::dlsym(RTLD_NEXT, name));
-}
-
 bool Changes(int flags)
 {
     return (flags & (O_WRONLY | O_RDWR | O_CREAT | O_TRUNC)) != 0;
 }
 
-} // namespace
+/// What flushing with `flush` comes to.
+int Flushed(int descriptor, int (*flush)(int))
+{
+    const bool onDisk = IsOnDisk(descriptor);
+    if (onDisk) {
+        Note("flush " + PathOf(descriptor));
+    }
+    if (onDisk && TheDisk().fault == Fault::Broken && TheDisk().left <= 0) {
+        errno = EIO;
+        return -1;
+    }
+    return flush(descriptor);
+}
 
-// Each name is that of the function which it stands before.
-#define REAL(name) Real(&name, #name)
+} // namespace
 
 extern "C" {
 
@@ -168,7 +204,20 @@ int unlink(const char* path)
 
 int rename(const char* from, const char* to)
 {
+    if (IsOnDisk(to)) {
+        Note(std::string("rename ") + from + ' ' + to);
+    }
     return IsRefused(from) || IsRefused(to) ? -1 : REAL(rename)(from, to);
+}
+
+int fsync(int descriptor)
+{
+    return Flushed(descriptor, REAL(fsync));
+}
+
+int fdatasync(int descriptor)
+{
+    return Flushed(descriptor, REAL(fdatasync));
 }
 
 ssize_t write(int descriptor, const void* bytes, size_t count)

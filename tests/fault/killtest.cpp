@@ -224,8 +224,12 @@ void KillTest::killChange(const QStringList& arguments)
         }
         old += found == before ? 1 : 0;
         const QString backup = m_world.path(QStringLiteral("work.ffb"));
-        if (QFile::exists(backup) && soundFile(backup) != before) {
-            throw Wrong{QStringLiteral("the backup is not the old file")};
+        if (QFile::exists(backup)) {
+            const QString restored = m_world.path(QStringLiteral("restored.kvf"));
+            Copy(backup, restored);
+            if (soundFile(restored) != before) {
+                throw Wrong{QStringLiteral("the backup is not the old file")};
+            }
         }
     }
     report(inTime, QStringLiteral("%1 old states, %2 new ones").arg(old).arg(m_options.times - old));

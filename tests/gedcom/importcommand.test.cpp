@@ -59,9 +59,8 @@ TEST_F(ImportCommand, SecondImportOfTheSameFileBacksUpAndAsksNothing)
     EXPECT_TRUE(import("a.ged", "1 NAME Bea\n"));
     EXPECT_EQ(state(), "a.ged|2026-03-12T12:00:00|Bea");
     EXPECT_EQ(file.connection().countRows("Pic2Person"), 1);
-    FamilyFile backup;
-    ASSERT_TRUE(OpenFamilyFile(backup, BackupPath(file.path()), world.environment));
-    EXPECT_TRUE(DumpTree(backup.connection()).contains("GivenName=[Ann]"));
+    Connection backup(BackupPath(file.path()), OpenMode::ReadWrite);
+    EXPECT_TRUE(DumpTree(backup).contains("GivenName=[Ann]"));
 }
 
 TEST_F(ImportCommand, AnotherFileIsAskedAbout)
@@ -111,6 +110,27 @@ TEST_F(ImportCommand, AFailureLeavesTreeAndNoteAsTheyWere)
     world.talk.expect("Cannot open the GEDCOM file");
     EXPECT_FALSE(ImportGedcomFile(file, world.path("none.ged"), world.environment, report));
     EXPECT_EQ(state(), before);
+}
+
+TEST_F(ImportCommand, ABackupOfTheWholeTreeOutlivesImportsThatAreStopped)
+{
+    const QByteArray whole = "1 NAME Ann\n0 @I2@ INDI\n0 @I3@ INDI\n";
+    const QByteArray stopped = "1 NAME Bea\n0 @I1@ INDI\n";
+    ASSERT_TRUE(import("a.ged", whole));
+    const QString backup = "Creating Backup Family File";
+    const QString duplicate = "Your GEDCOM file has a duplicate entry for individual ID # 1";
+    world.talk.expect(backup).expect(duplicate).expect(backup).expect(backup).expect(duplicate);
+    EXPECT_FALSE(import("a.ged", stopped));
+    EXPECT_FALSE(import("a.ged", stopped));
+    const QString kept = world.path("Family.kept-1.ffb");
+    EXPECT_TRUE(world.talk.shown()[3].text.contains("\n" + kept + "\n"));
+    EXPECT_EQ(Rows(*std::make_unique<Connection>(kept, OpenMode::ReadWrite), "SELECT count(*) FROM Indi").join(' '),
+              "3");
+    world.talk.expect(backup).expect(backup);
+    EXPECT_TRUE(import("a.ged", whole));
+    EXPECT_TRUE(import("a.ged", whole));
+    const QStringList backups = {"Family.ffb", "Family.kept-1.ffb"};
+    EXPECT_EQ(QDir(world.path({})).entryList({"*.ffb"}), backups);
 }
 
 TEST_F(ImportCommand, ADuplicateKeepsWhatWasReadAndTheNote)

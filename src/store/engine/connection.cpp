@@ -6,6 +6,8 @@
 #include "store/engine/jetsql.h"
 #include "store/engine/textfunctions.h"
 
+#include <QtCore/QFileInfo>
+
 #include <sqlite3.h>
 
 #include <utility>
@@ -55,9 +57,15 @@ void Lock(SQLite::Database& database)
 {
     database.exec("PRAGMA locking_mode=EXCLUSIVE");
     database.exec("BEGIN EXCLUSIVE; COMMIT");
-    // Another program may have left the file in a mode that spreads it over several files.
-    database.exec("PRAGMA journal_mode=DELETE");
     database.exec("PRAGMA synchronous=FULL");
+}
+
+/// A write-ahead log that another program left is read, but stays where it is, unless keepInOneFile() is called.
+void LeaveLogAlone(SQLite::Database& database)
+{
+    const QString path = QString::fromUtf8(sqlite3_db_filename(database.getHandle(), "main"));
+    const int holdsSomething = QFileInfo(path + QStringLiteral("-wal")).size() > 0 ? 1 : 0;
+    sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, holdsSomething, nullptr);
 }
 
 /// While one thread writes a site's tables, windows in another may want to show a picture: the engine makes them wait.
@@ -259,8 +267,14 @@ Connection::Connection(const QString& path, OpenMode mode)
         LayOut(m_database);
     }
     m_database.exec("PRAGMA cache_size=-" + std::to_string(cacheKilobytes));
+    LeaveLogAlone(m_database);
     Lock(m_database);
     AddTextFunctions(m_database.getHandle());
+}
+
+void Connection::keepInOneFile()
+{
+    m_database.exec("PRAGMA journal_mode=DELETE");
 }
 
 Statement Connection::prepare(const QString& sql)

@@ -80,9 +80,13 @@ class Connection
 {
 public:
     /// Opens or creates the file at `path`. Throws SQLite::Exception; SQLITE_BUSY means that another program holds it.
+    /// Opening plays back the journal of a change that broke off, and changes nothing else.
     Connection(const QString& path, OpenMode mode);
 
     const QString& path() const { return m_path; }
+
+    /// Ends the mode, in which another program may have left the file, that spreads it over several files.
+    void keepInOneFile();
 
     /// Prepares a statement of the engine's own SQL. It can compare and sort texts by the rule of base/text.h with
     /// COLLATE names.

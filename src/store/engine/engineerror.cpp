@@ -14,7 +14,9 @@ namespace stemwright
 QString ReasonText(const std::exception& exception)
 {
     const auto* engine = dynamic_cast<const SQLite::Exception*>(&exception);
-    switch (engine == nullptr ? SQLITE_OK : engine->getErrorCode()) {
+    // Copying gives the engine's finer codes, whose lowest byte is the plain one.
+    constexpr int plainCode = 0xFF;
+    switch (engine == nullptr ? SQLITE_OK : engine->getErrorCode() & plainCode) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
         return QStringLiteral("It is in use by this or another program.");

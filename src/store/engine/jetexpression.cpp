@@ -4,6 +4,7 @@
 
 #include "base/error.h"
 #include "store/engine/jetdates.h"
+#include "store/engine/schema.h"
 #include "store/engine/textfunctions.h"
 
 #include <array>
@@ -133,11 +134,6 @@ Kind Scope::kindOf(const QString& qualifier, const QString& column) const
         }
     }
     return Kind::Unknown;
-}
-
-QString Quoted(const QString& name)
-{
-    return u'"' + QString(name).replace(u'"', QStringLiteral("\"\"")) + u'"';
 }
 
 QString WithOrder(const Expression& expression)
@@ -342,7 +338,7 @@ Expression ExpressionReader::column(const QString& first)
     if (const auto source = m_scope.sourceOf(qualifier, name)) {
         use(*source);
     }
-    const QString sql = qualifier.isEmpty() ? Quoted(name) : Quoted(qualifier) + u'.' + Quoted(name);
+    const QString sql = qualifier.isEmpty() ? QuotedName(name) : QuotedName(qualifier) + u'.' + QuotedName(name);
     return {sql, m_scope.kindOf(qualifier, name)};
 }
 

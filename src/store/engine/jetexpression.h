@@ -50,9 +50,6 @@ private:
     std::vector<std::pair<QString, Kind>> m_aliases;
 };
 
-/// A name in double quotes, as the engine takes every name.
-QString Quoted(const QString& name);
-
 /// An expression that sorts and groups as its kind does.
 QString WithOrder(const Expression& expression);
 

@@ -4,6 +4,7 @@
 
 #include "base/error.h"
 #include "store/engine/jetexpression.h"
+#include "store/engine/schema.h"
 
 #include <QtCore/QStringList>
 
@@ -114,7 +115,7 @@ private:
         }
         const QString name = m_tokens.takeName();
         m_scope.addAlias(name, expression.kind);
-        return expression.sql + QStringLiteral(" AS ") + Quoted(name);
+        return expression.sql + QStringLiteral(" AS ") + QuotedName(name);
     }
 
     /// All columns of one table, "Indi2Page.*".
@@ -129,13 +130,14 @@ private:
         if (const auto source = m_scope.sourceOf(name.text, {})) {
             m_reader.use(*source);
         }
-        return Quoted(name.text) + QStringLiteral(".*");
+        return QuotedName(name.text) + QStringLiteral(".*");
     }
 
     static QString declaration(const Source& source)
     {
-        return source.table == source.name ? Quoted(source.table)
-                                           : Quoted(source.table) + QStringLiteral(" AS ") + Quoted(source.name);
+        return source.table == source.name
+                   ? QuotedName(source.table)
+                   : QuotedName(source.table) + QStringLiteral(" AS ") + QuotedName(source.name);
     }
 
     QString fromList() const
@@ -156,7 +158,7 @@ private:
         QStringList links;
         for (const std::size_t index : shown) {
             const Source& source = m_scope.sources()[index];
-            const QString rowNumber = Quoted(source.name) + QStringLiteral(".rowid");
+            const QString rowNumber = QuotedName(source.name) + QStringLiteral(".rowid");
             const QString picked = QStringLiteral("row_%1").arg(index);
             numbers << rowNumber + QStringLiteral(" AS ") + picked;
             tables << declaration(source);
@@ -219,7 +221,7 @@ private:
         do {
             assignments << assignment(table);
         } while (m_tokens.takeSymbol(u","));
-        return QStringLiteral("UPDATE %1 SET ").arg(Quoted(table)) + assignments.join(separator) + whereClause();
+        return QStringLiteral("UPDATE %1 SET ").arg(QuotedName(table)) + assignments.join(separator) + whereClause();
     }
 
     QString assignment(const QString& table)
@@ -229,7 +231,8 @@ private:
         const Expression value = m_reader.read();
         const TableDefinition* definition = FindTable(table);
         const ColumnDefinition* target = definition == nullptr ? nullptr : FindColumn(*definition, column);
-        return Quoted(column) + QStringLiteral(" = ") + (target == nullptr ? value.sql : AsStored(value, target->type));
+        return QuotedName(column) + QStringLiteral(" = ") +
+               (target == nullptr ? value.sql : AsStored(value, target->type));
     }
 
     QString deletion()
@@ -238,7 +241,7 @@ private:
         m_tokens.expectWord(u"FROM");
         const QString table = m_tokens.takeName();
         m_scope.add({table, table});
-        return QStringLiteral("DELETE FROM ") + Quoted(table) + whereClause();
+        return QStringLiteral("DELETE FROM ") + QuotedName(table) + whereClause();
     }
 
     /// A column's type is changed only to TEXT, the dialect's word for a memo, and the schema gives the columns that
@@ -255,7 +258,7 @@ private:
         if (column == nullptr || column->type != ColumnType::Memo) {
             throw Error(QStringLiteral("Column %1 of table %2 cannot become a memo.").arg(name, table.name));
         }
-        return QStringLiteral("UPDATE %1 SET %2 = %2 WHERE 0").arg(Quoted(table.name), Quoted(column->name));
+        return QStringLiteral("UPDATE %1 SET %2 = %2 WHERE 0").arg(QuotedName(table.name), QuotedName(column->name));
     }
 
     TokenStream m_tokens;

@@ -347,6 +347,12 @@ QString DeclaredType(ColumnType type)
     return {};
 }
 
+QString QuotedName(const QString& name)
+{
+    QString quoted = name;
+    return u'"' + quoted.replace(u'"', QStringLiteral("\"\"")) + u'"';
+}
+
 QString CreateTableSql(const TableDefinition& table)
 {
     QStringList columns;

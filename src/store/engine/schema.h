@@ -81,6 +81,9 @@ const TableDefinition& TableNamed(QStringView name);
 /// numbers.
 QString DeclaredType(ColumnType type);
 
+/// A name in double quotes, as the engine takes every name.
+QString QuotedName(const QString& name);
+
 /// The engine's statements that create a table and its secondary indexes, word for word as the engine keeps them.
 QString CreateTableSql(const TableDefinition& table);
 QStringList CreateIndexesSql(const TableDefinition& table);

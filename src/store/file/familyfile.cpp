@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "store/file/familyfile.h"
 
+#include "base/error.h"
 #include "base/files.h"
 #include "store/engine/engineerror.h"
+#include "store/engine/leftjournal.h"
 #include "store/file/copyfamilyfile.h"
 #include "store/file/messages.h"
 #include "store/file/recognise.h"
@@ -27,16 +29,18 @@ void WriteNewFile(const QString& path, Environment& environment)
     transaction.commit();
 }
 
-/// The file that a link leads to, so that an upgrade replaces that one and not the link.
-QString FileItself(const QString& path)
-{
-    return QFileInfo(path).isSymLink() ? QFileInfo(path).canonicalFilePath() : path;
-}
-
 /// Opens a file after the upgrade that it may need; none when the user declined the upgrade.
 std::unique_ptr<Connection> OpenRecognised(const QString& path, const Environment& environment)
 {
-    if (RecogniseFormat(path) == FileFormat::Jet) {
+    // What is done in a backup would be gone with the next one.
+    if (IsBackup(path)) {
+        throw Error(QStringLiteral("It is a backup. Change its extension to \".kvf\" and open it then."));
+    }
+    const FileFormat format = RecogniseFormat(path);
+    if (const QStringList aside = SetForeignJournalsAside(path); !aside.isEmpty()) {
+        environment.talk.tell(storemessages::JournalsSetAside(path, aside));
+    }
+    if (format == FileFormat::Jet) {
         return UpgradeFamilyFile(*OpenJetFamilyFile(FileItself(path)), environment) ? OpenRecognised(path, environment)
                                                                                     : nullptr;
     }
@@ -56,10 +60,13 @@ bool CreateFamilyFile(FamilyFile& file, const QString& path, Environment& enviro
 {
     const QString target = QFileInfo(path).absoluteFilePath();
     try {
+        if (IsBackup(target)) {
+            throw Error(QStringLiteral("Files with the extension \".ffb\" are backups. Choose \".kvf\"."));
+        }
         PrepareToReplace(target);
         UnfinishedFile unfinished(target);
         WriteNewFile(unfinished.path(), environment);
-        unfinished.putInPlace();
+        PutFamilyFileInPlace(unfinished);
     } catch (const std::exception& exception) {
         environment.talk.tell(storemessages::CannotCreate(target, ReasonText(exception)));
         return false;

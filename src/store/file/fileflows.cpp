@@ -58,7 +58,7 @@ QString WritableSampleFile(const ApplicationFolder& application)
         CreateFolderPath(ApplicationFolder::userFolder());
         UnfinishedFile unfinished(own);
         WriteWholeFile(unfinished.path(), ReadWholeFile(shipped));
-        unfinished.putInPlace();
+        PutFamilyFileInPlace(unfinished);
     }
     return own;
 }
@@ -105,7 +105,7 @@ bool OpenTestDB(FamilyFile& file, Environment& environment)
         }
         Connection& connection = isOpen ? file.connection() : opened.connection();
         PlaceSitesOfSample(connection, environment.application.pagesFolder());
-        const QString backup = BackupFamilyFile(connection);
+        const QString backup = BackupFamilyFile(connection, environment.talk);
         environment.talk.tell(storemessages::OpeningTestFile(sample, backup));
         if (!isOpen) {
             file = std::move(opened);

@@ -43,6 +43,26 @@ Message CannotSaveAs(const QString& path, const QString& reason)
             Icon::Critical};
 }
 
+Message JournalsSetAside(const QString& path, const QStringList& aside)
+{
+    return {QStringLiteral("Opening family file"),
+            QStringLiteral("Beside the family file %1 lay the record of a change that broke off, but it was made for "
+                           "another file that stood there before. It was left out and renamed to:\n\n%2\n\n"
+                           "If the family file holds what you expect, you can delete it.")
+                .arg(QDir::toNativeSeparators(path), QDir::toNativeSeparators(aside.join(u'\n'))),
+            Icon::Warning};
+}
+
+Message LargerBackupKept(const QString& backup, const QString& kept)
+{
+    return {QStringLiteral("Creating Backup Family File"),
+            QStringLiteral("The older backup, '%1', holds more individuals than your family file does now, as after an "
+                           "import that was stopped. Therefore it was kept under another name:\n\n%2\n\n"
+                           "If you will want to use it, you will have to change its extension to \".kvf\".")
+                .arg(QDir::toNativeSeparators(backup), QDir::toNativeSeparators(kept)),
+            Icon::Information};
+}
+
 Message ReplaceExisting(const QString& path)
 {
     return {{},

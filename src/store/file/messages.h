@@ -14,6 +14,10 @@ Message CouldNotReopen();
 Message CannotCreate(const QString& path, const QString& reason);
 Message CannotOpen(const QString& path, const QString& reason);
 Message CannotSaveAs(const QString& path, const QString& reason);
+/// What lay beside a family file and belongs to another file now has these names.
+Message JournalsSetAside(const QString& path, const QStringList& aside);
+/// A backup that holds more individuals than the family file was not overwritten.
+Message LargerBackupKept(const QString& backup, const QString& kept);
 /// Asks whether a file that stands in the place of a new one may go.
 Message ReplaceExisting(const QString& path);
 /// What to do next with a family file that was just created.

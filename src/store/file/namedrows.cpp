@@ -4,27 +4,15 @@
 
 #include "base/error.h"
 #include "base/text.h"
+#include "store/engine/engineerror.h"
+#include "store/engine/schema.h"
+#include "store/tables/tableshape.h"
 
 namespace stemwright
 {
 
 namespace
 {
-
-QString Quoted(const QString& name)
-{
-    return u'"' + name + u'"';
-}
-
-QStringList ColumnsOf(Connection& connection, const QString& table)
-{
-    const Statement statement = connection.prepare(QStringLiteral("SELECT * FROM %1 LIMIT 0").arg(table));
-    QStringList columns;
-    for (int column = 0; column < statement.columnCount(); ++column) {
-        columns << statement.columnName(column);
-    }
-    return columns;
-}
 
 void RequireStorableName(const NamedRowKind& kind, const QString& name)
 {
@@ -72,8 +60,8 @@ void CloneRow(Connection& connection, const QString& table, qint64 sourceRow,
         const auto other = std::find_if(others.begin(), others.end(), [&column](const auto& entry) {
             return column.compare(entry.first, Qt::CaseInsensitive) == 0;
         });
-        columns << Quoted(column);
-        values << (other == others.end() ? Quoted(column)
+        columns << QuotedName(column);
+        values << (other == others.end() ? QuotedName(column)
                                          : QStringLiteral("?%1").arg(std::distance(others.begin(), other) + 2));
     }
     Statement statement = connection.prepare(QStringLiteral("INSERT INTO %1 (%2) SELECT %3 FROM %1 WHERE rowid = ?1")
@@ -120,7 +108,7 @@ bool NamedRowManager::perform(Action action)
         transaction.commit();
         return true;
     } catch (const std::exception& exception) {
-        m_environment.talk.tell(m_texts.failure(ErrorText(exception)));
+        m_environment.talk.tell(m_texts.failure(ReasonText(exception)));
         return false;
     }
 }

@@ -42,9 +42,9 @@ public:
     void copyTo(const QString& target) const override
     {
         PrepareToReplace(target);
-        UnfinishedFile unfinished(target);
+        UnfinishedFile unfinished(target, path());
         WriteWholeFile(unfinished.path(), m_source->content());
-        unfinished.putInPlace();
+        PutFamilyFileInPlace(unfinished);
     }
 
     void requireUnchanged() const override

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/file/pendingchanges.h"
 
-#include "base/error.h"
+#include "store/engine/engineerror.h"
 
 namespace stemwright
 {
@@ -28,7 +28,7 @@ bool PendingChanges::save(Talk& talk, Message (*failure)(const QString& reason))
         begin();
         return true;
     } catch (const std::exception& exception) {
-        talk.tell(failure(ErrorText(exception)));
+        talk.tell(failure(ReasonText(exception)));
         return false;
     }
 }

@@ -3,6 +3,8 @@
 #include "store/file/recognise.h"
 
 #include "base/error.h"
+#include "base/files.h"
+#include "store/engine/leftjournal.h"
 #include "store/jet/jetfile.h"
 #include "store/tables/tableshape.h"
 #include "store/upgrade/upgradesteps.h"
@@ -109,6 +111,7 @@ QString StatedVersion(Connection& connection)
 FileFormat RecogniseFormat(const QString& path)
 {
     const QFileInfo info(path);
+    RequireUsablePath(FileItself(path));
     if (!info.exists()) {
         Refuse(QStringLiteral("There is no such file."));
     }
@@ -131,12 +134,13 @@ FileFormat RecogniseFormat(const QString& path)
 
 QString RequireFamilyFile(Connection& connection)
 {
-    RequireWholeLength(connection);
     if (!connection.hasTable(u"GenInfo")) {
         Refuse(QStringLiteral("It is not a family file."));
     }
     RequireNothingElse(connection, Indexes::Any);
     const QString version = StatedVersion(connection);
+    connection.keepInOneFile();
+    RequireWholeLength(connection);
     if (NeedsUpgrade(version)) {
         for (const QString& table : TablesOfVersion(version)) {
             if (!connection.hasTable(table)) {

@@ -20,7 +20,8 @@ enum class FileFormat { Engine, Jet };
 FileFormat RecogniseFormat(const QString& path);
 
 /// Looks at what an open file holds: all tables that files of its version have, and nothing that a family file does not
-/// have (a trigger could undo what the user does). Returns the version that the file states.
+/// have (a trigger could undo what the user does). Once it is known for a family file, and not before, it is made one
+/// file (Connection::keepInOneFile()). Returns the version that the file states.
 QString RequireFamilyFile(Connection& connection);
 
 } // namespace stemwright

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "store/file/upgradefamilyfile.h"
 
-#include "base/error.h"
 #include "base/files.h"
 #include "store/file/copyfamilyfile.h"
 #include "store/file/recognise.h"
@@ -10,9 +9,6 @@
 #include "store/upgrade/messages.h"
 #include "store/upgrade/tablechanges.h"
 #include "store/upgrade/upgradesteps.h"
-
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 
 namespace stemwright
 {
@@ -50,9 +46,6 @@ private:
     void backUp()
     {
         const QString target = BackupPath(m_old.path());
-        if (IsSameFile(target, m_old.path())) {
-            throw Error(QStringLiteral("It is a backup. Change its extension to \".kvf\" and open it then."));
-        }
         m_old.copyTo(target);
         m_backup = target;
         m_environment.talk.tell(upgrademessages::BackedUp(target));
@@ -60,7 +53,7 @@ private:
 
     void replace()
     {
-        UnfinishedFile work(m_old.path() + QStringLiteral(".old"));
+        UnfinishedFile work(m_old.path() + QStringLiteral(".old"), m_old.path());
         UnfinishedFile current(m_old.path());
         upgrade(work.path());
         WriteCurrentFile(current.path(), work.path(), m_environment.talk);
@@ -70,9 +63,8 @@ private:
         if (m_backup.isEmpty() && (replacesFormat || !m_leftBehind.isEmpty())) {
             backUp();
         }
-        QFile::setPermissions(current.path(), QFileInfo(m_old.path()).permissions());
         m_old.requireUnchanged();
-        current.putInPlace();
+        PutFamilyFileInPlace(current);
     }
 
     void upgrade(const QString& workPath)

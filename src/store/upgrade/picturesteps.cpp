@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
+#include "album/imagestructure.h"
 #include "album/modblob.h"
 #include "album/picturesearch.h"
 #include "album/thumbnail.h"
@@ -9,6 +10,7 @@
 #include "store/upgrade/upgradesteps.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
 #include <vector>
@@ -46,11 +48,20 @@ std::vector<NamedFile> FilesNamedBy(Connection& work, const FileColumns& columns
     return files;
 }
 
-/// Whether the file was found and is now in the family file. One that cannot be read is as good as none.
+/// A family file may come from anyone and name any file of this computer, which a site would then publish. Pictures
+/// with flaws move in, as they always have.
+bool IsPicture(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && ClaimedFormat(file.read(6)).has_value();
+}
+
+/// Whether the file was found and is now in the family file. One that cannot be read, or is no picture, is as good as
+/// none.
 bool MoveIn(UpgradeRun& run, PictureSearch& search, const FileColumns& columns, const NamedFile& file)
 {
     const QString path = search.find(file.stored);
-    if (path.isEmpty()) {
+    if (path.isEmpty() || !IsPicture(path)) {
         return false;
     }
     try {

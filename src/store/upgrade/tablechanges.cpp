@@ -28,12 +28,6 @@ void DropColumn(Connection& connection, const QString& table, const QString& col
     }
 }
 
-QString QuotedName(const QString& name)
-{
-    QString quoted = name;
-    return u'"' + quoted.replace(u'"', QStringLiteral("\"\"")) + u'"';
-}
-
 void FailNotWhole(const QString& table)
 {
     throw Error(

@@ -18,9 +18,6 @@ void AddColumn(Connection& connection, const QString& table, const QString& colu
 /// Deletes a column with its values; one that is not there is no error.
 void DropColumn(Connection& connection, const QString& table, const QString& column);
 
-/// A name in double quotes, as the engine takes every name.
-QString QuotedName(const QString& name);
-
 /// The Error of a table whose rows or pictures are not all in the new file.
 [[noreturn]] void FailNotWhole(const QString& table);
 

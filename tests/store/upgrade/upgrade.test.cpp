@@ -223,6 +223,24 @@ TEST(UpgradeSteps, EachTakesAFileFromTheVersionBeforeItToTheNext)
     }
 }
 
+TEST(UpgradeSteps, OnlyPicturesMoveIn)
+{
+    TestWorld world;
+    const QString path = CopyOfFixture(world, "2.0");
+    BecomeEngineFile(path);
+    const QString secret = world.write("secret.jpg", "root:x:0:0");
+    const QString flawed = world.write("flawed.gif", "GIF89a, and nothing more");
+    Connection(path, OpenMode::ReadWrite)
+        .execute(QString("DELETE FROM AlbumTOC; UPDATE WebSiteInfo SET EmblemFilename = '%1';"
+                         "INSERT INTO AlbumTOC (PicId, PictureFilename) VALUES (1, '%1'), (2, '%2')")
+                     .arg(secret, flawed));
+    world.talk.expect(question, Button::No).expect(upgrading).expect(upgrading);
+    ASSERT_TRUE(OpenFamilyFile(world.file, path, world.environment));
+    EXPECT_EQ(world.column("SELECT count(*) FROM WebSiteInfo WHERE EmblemPicture IS NOT NULL"), QStringList("0"));
+    EXPECT_EQ(Rows(world.connection(), "SELECT PicId, length(Picture) FROM AlbumTOC").join(' '), "1|- 2|24");
+    EXPECT_TRUE(world.talk.shown().back().text.contains("\n" + secret + '\n' + secret + '\n'));
+}
+
 TEST(UpgradeSteps, WhatAnEarlierReleaseHadBegunIsNotDoneTwice)
 {
     TestWorld world;
@@ -270,16 +288,6 @@ TEST(UpgradeAnswers, DecideAboutTheBackup)
               QString("Your family file was backed up to '%1'.\n\nIf in the future you will want to use this backup "
                       "file, you will have to change its extension to \".kvf\".")
                   .arg(backup));
-}
-
-TEST(UpgradeAnswers, ABackupIsNotOverwrittenByItsOwnUpgrade)
-{
-    TestWorld world;
-    const QByteArray before = ReadWholeFile(CopyOfFixture(world, "2.2"));
-    const QString path = world.write("cats.ffb", before);
-    world.talk.expect(question, Button::Yes).expect(cannotOpen);
-    EXPECT_FALSE(OpenFamilyFile(world.file, path, world.environment));
-    EXPECT_EQ(ReadWholeFile(path), before);
 }
 
 TEST(UpgradeFailures, LeaveTheFileAsItWas)
