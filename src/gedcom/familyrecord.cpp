@@ -103,7 +103,11 @@ void FamilyRecord::takeField(const GedcomLine& line)
         openEvent(line);
         return;
     default:
-        IsCustomFactTag(line.Tag) ? openEvent(line) : passOver(line);
+        if (IsCustomFactTag(line.Tag)) {
+            openEvent(line);
+        } else {
+            passOver(line);
+        }
     }
 }
 

@@ -16,18 +16,7 @@ namespace
 /// The text cut to what a text column holds.
 std::string_view CutToColumn(std::string_view utf8)
 {
-    // Nearly all texts: none has more characters than bytes.
-    if (utf8.size() <= static_cast<std::size_t>(maxTextLength)) {
-        return utf8;
-    }
-    int characters = 0;
-    for (std::size_t position = 0; position < utf8.size(); ++position) {
-        const bool startsCharacter = (static_cast<unsigned char>(utf8[position]) & 0xC0) != 0x80;
-        if (startsCharacter && ++characters > maxTextLength) {
-            return utf8.substr(0, position);
-        }
-    }
-    return utf8;
+    return utf8.substr(0, BytesOfCharacters(utf8, maxTextLength));
 }
 
 class RowWriter

@@ -417,6 +417,10 @@ QString CutToColumn(const QString& text)
 
 std::size_t BytesOfCharacters(std::string_view utf8, int count)
 {
+    // Nearly always: no text has more characters than bytes.
+    if (utf8.size() <= static_cast<std::size_t>(count)) {
+        return utf8.size();
+    }
     for (std::size_t position = 0; position < utf8.size(); ++position) {
         const bool beginsCharacter = (static_cast<unsigned char>(utf8[position]) & 0xC0U) != 0x80U;
         if (beginsCharacter && count-- == 0) {

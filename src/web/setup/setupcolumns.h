@@ -40,7 +40,7 @@ struct SetupColumn {
     int lowest = 0;
     int highest = 0;
     /// Of a typed text: what the wizard calls it, for the beginning of a sentence.
-    QString inWords;
+    QString inWords = {};
 };
 
 /// In the order of the table WebSiteInfo, without the setup's name.
