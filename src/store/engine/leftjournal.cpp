@@ -190,6 +190,18 @@ bool IsOwn(const HeldFile& file, const QByteArray& head, Journal& journal)
     return counted == 0 ? head == *before : counted == 1 && IsSoundWithJournal(file);
 }
 
+/// Goes on with a checksum, word by word in the manner of FNV (draft-eastlake-fnv), which keeps up with any disk. Its
+/// upper half is the better mixed one.
+quint64 Summed(quint64 sum, const QByteArray& bytes)
+{
+    constexpr quint64 prime = 0x100000001B3;
+    constexpr qsizetype word = sizeof(quint64);
+    for (qsizetype place = 0; place + word <= bytes.size(); place += word) {
+        sum = (sum ^ qFromLittleEndian<quint64>(bytes.constData() + place)) * prime;
+    }
+    return sum;
+}
+
 QString Renamed(const QString& path)
 {
     const QString aside = path + QStringLiteral("-of-another-file");
@@ -220,12 +232,12 @@ void CountChangesFromContent(const QString& path)
     if (!IsDatabaseHead(file.peek(headSize))) {
         return;
     }
-    std::size_t sum = 0;
+    quint64 sum = 0;
     for (QByteArray bytes = file.read(piece); !bytes.isEmpty(); bytes = file.read(piece)) {
-        sum = qHash(bytes, sum);
+        sum = Summed(sum, bytes);
     }
     QByteArray number(sizeof(quint32), Qt::Uninitialized);
-    qToBigEndian(static_cast<quint32>(sum), number.data());
+    qToBigEndian(static_cast<quint32>(sum >> 32), number.data());
     for (const qsizetype place : {changeCounterPlace, pageCountChangePlace}) {
         if (!file.seek(place) || file.write(number) != number.size()) {
             FailToWrite(path, file.errorString());
