@@ -163,21 +163,32 @@ bool CreateFolderPath(const QString& path)
 
 QByteArray ReadWholeFile(const QString& path)
 {
-    if (const QFileInfo info(path); info.exists() && !info.isFile()) {
+    // Opening a pipe waits for its other end unless it is told not to.
+    const Descriptor descriptor(path, O_RDONLY | O_NONBLOCK);
+
+    struct stat file {
+    };
+
+    if (!descriptor.isOpen() || ::fstat(descriptor.number(), &file) != 0) {
+        FailToRead(path, ReasonOf(errno));
+    }
+    if (!S_ISREG(file.st_mode)) {
         FailToRead(path, QStringLiteral("it is not a file but a folder, pipe or device"));
     }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        FailToRead(path, file.errorString());
+    // One byte more than it should be, so that one look shows the end.
+    QByteArray content(static_cast<qsizetype>(file.st_size) + 1, Qt::Uninitialized);
+    qsizetype done = 0;
+    while (const ssize_t length =
+               ::read(descriptor.number(), content.data() + done, static_cast<size_t>(content.size() - done))) {
+        if (length < 0 && errno != EINTR) {
+            FailToRead(path, ReasonOf(errno));
+        }
+        done += std::max<ssize_t>(length, 0);
+        if (done == content.size()) {
+            content.resize(2 * done);
+        }
     }
-    QByteArray content = file.readAll();
-    // A disk that fails in the middle makes the first read short, and only the next one an error.
-    if (!file.atEnd()) {
-        content += file.readAll();
-    }
-    if (file.error() != QFileDevice::NoError) {
-        FailToRead(path, file.errorString());
-    }
+    content.truncate(done);
     return content;
 }
 

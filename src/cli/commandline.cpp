@@ -37,6 +37,15 @@ QString CommandLine::textOf(const std::string& argument)
     return QString::fromLocal8Bit(argument.data(), static_cast<qsizetype>(argument.size()));
 }
 
+CLI::App* AddGroup(CLI::App& app, const std::string& name, const std::string& description,
+                   std::function<void(CLI::App&)> addCommands)
+{
+    CLI::App* group = app.add_subcommand(name, description);
+    group->require_subcommand(1);
+    group->preparse_callback([group, add = std::move(addCommands)](std::size_t) { add(*group); });
+    return group;
+}
+
 void Require(bool succeeded)
 {
     if (!succeeded) {

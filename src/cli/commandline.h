@@ -65,6 +65,11 @@ private:
 /// Throws AlreadyReported unless the procedure succeeded.
 void Require(bool succeeded);
 
+/// Adds a command that has commands of its own. `addCommands` is called with it when it is asked for: making all
+/// commands at every start would take longer than many a command does.
+CLI::App* AddGroup(CLI::App& app, const std::string& name, const std::string& description,
+                   std::function<void(CLI::App&)> addCommands);
+
 void AddFileCommands(CLI::App& app, CommandLine& line);
 void AddGedcomCommands(CLI::App& app, CommandLine& line);
 void AddSetupCommands(CLI::App& app, CommandLine& line);

@@ -90,11 +90,11 @@ void AddRemove(CLI::App& mark, CommandLine& line)
 
 void AddMarkCommands(CLI::App& app, CommandLine& line)
 {
-    auto* mark = app.add_subcommand("mark", "Mark the persons in a picture");
-    mark->require_subcommand(1);
-    AddAdd(*mark, line);
-    AddList(*mark, line);
-    AddRemove(*mark, line);
+    AddGroup(app, "mark", "Mark the persons in a picture", [&line](CLI::App& mark) {
+        AddAdd(mark, line);
+        AddList(mark, line);
+        AddRemove(mark, line);
+    });
 }
 
 } // namespace stemwright

@@ -210,14 +210,14 @@ std::shared_ptr<PictureArguments> AddPictureArguments(CLI::App& command)
 
 void AddPictureCommands(CLI::App& app, CommandLine& line)
 {
-    auto* picture = app.add_subcommand("picture", "Keep the pictures of the album");
-    picture->require_subcommand(1);
-    AddAdd(*picture, line);
-    AddEdit(*picture, line);
-    AddList(*picture, line);
-    AddShow(*picture, line);
-    AddDelete(*picture, line);
-    AddExtract(*picture, line);
+    AddGroup(app, "picture", "Keep the pictures of the album", [&line](CLI::App& picture) {
+        AddAdd(picture, line);
+        AddEdit(picture, line);
+        AddList(picture, line);
+        AddShow(picture, line);
+        AddDelete(picture, line);
+        AddExtract(picture, line);
+    });
 }
 
 } // namespace stemwright

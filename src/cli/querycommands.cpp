@@ -95,15 +95,15 @@ void AddRun(CLI::App& query, CommandLine& line)
 
 void AddQueryCommands(CLI::App& app, CommandLine& line)
 {
-    auto* query = app.add_subcommand("query", "Manage picture list queries");
-    query->require_subcommand(1);
+    auto* query = AddGroup(app, "query", "Manage picture list queries", [&line](CLI::App& commands) {
+        AddList(commands, line);
+        AddNamedRowCommands(commands, line, "query", Make<QueryManager>);
+        AddShow(commands, line);
+        AddSet(commands, line);
+        AddSql(commands, line);
+        AddRun(commands, line);
+    });
     query->footer(querymessages::QueryListExplanation().toStdString());
-    AddList(*query, line);
-    AddNamedRowCommands(*query, line, "query", Make<QueryManager>);
-    AddShow(*query, line);
-    AddSet(*query, line);
-    AddSql(*query, line);
-    AddRun(*query, line);
 }
 
 } // namespace stemwright

@@ -114,17 +114,17 @@ void AddView(CLI::App& setup, CommandLine& line)
 
 void AddSetupCommands(CLI::App& app, CommandLine& line)
 {
-    auto* setup = app.add_subcommand("setup", "Manage web site setups");
-    setup->require_subcommand(1);
-    AddList(*setup, line);
-    AddNamedRowCommands(*setup, line, "setup", Make<SetupManager>);
-    AddShow(*setup, line);
-    AddSet(*setup, line);
-    AddCheck(*setup, line);
-    AddDefault(*setup, line);
-    AddView(*setup, line);
-    AddSetupTreeCommands(*setup, line);
-    AddSetupItemCommands(*setup, line);
+    AddGroup(app, "setup", "Manage web site setups", [&line](CLI::App& setup) {
+        AddList(setup, line);
+        AddNamedRowCommands(setup, line, "setup", Make<SetupManager>);
+        AddShow(setup, line);
+        AddSet(setup, line);
+        AddCheck(setup, line);
+        AddDefault(setup, line);
+        AddView(setup, line);
+        AddSetupTreeCommands(setup, line);
+        AddSetupItemCommands(setup, line);
+    });
 }
 
 } // namespace stemwright

@@ -55,6 +55,7 @@ public:
             }
         } catch (const StopWished&) {
             // Before the message, which may stand there for hours.
+            m_beside = {};
             m_newTables.reset();
             m_progress.reset();
             stop(webmessages::BuildStopped(m_site));
@@ -81,7 +82,7 @@ private:
                 {LoadingPictures(), &SiteBuild::loadPictures},
                 {LoadingIndividuals(), &SiteBuild::loadIndividuals},
                 {LoadingIndividuals(), &SiteBuild::walkTrees},
-                {CopyingStandardFiles(), &SiteBuild::copyStandardFiles},
+                {CopyingStandardFiles(), &SiteBuild::beginSite},
                 {BuildingTheTrees(), &SiteBuild::buildTrees},
                 {BuildingIndex(), &SiteBuild::buildIndex},
                 {ProcessingPicture(), &SiteBuild::buildAlbum},
@@ -145,12 +146,19 @@ private:
         }
     }
 
-    void copyStandardFiles()
+    /// Standard files are copied and work tables filled by a second thread while the first writes pages: both only read
+    /// what the run knows. The tables become lasting after the last page of the site.
+    void beginSite()
     {
         RequireTemplates(m_setup->pageStyle, m_environment.application);
         m_site = webmessages::StoppedSite::Begun;
         EmptyOutputFolder(m_folder);
-        CopyStandardFiles(m_setup->pageStyle, m_environment.application, m_folder.path);
+        m_newTables.emplace(m_connection);
+        MakeWorkTables(m_connection);
+        m_beside = std::async(std::launch::async, [this] {
+            CopyStandardFiles(m_setup->pageStyle, m_environment.application, m_folder.path);
+            FillWorkTables(*m_run, m_connection);
+        });
     }
 
     void buildTrees()
@@ -234,20 +242,15 @@ private:
         }
     }
 
-    /// The work tables are filled beside the index and the personal pages: both only read what the run knows. The
-    /// tables become lasting after the last page of the site.
     void buildIndex()
     {
-        m_newTables.emplace(m_connection);
-        MakeWorkTables(m_connection);
-        std::future<void> tables = std::async(std::launch::async, [this] { FillWorkTables(*m_run, m_connection); });
         const std::vector<TreePosition> persons = PersonsInIndexOrder(*m_run);
         StepProgress progress(*m_progress,
                               m_run->settings.personalPages ? webmessages::BuildingIndexAndPersonalPages()
                                                             : webmessages::BuildingIndex(),
                               persons.size());
         WriteNameIndex(*m_run, persons, progress);
-        tables.get();
+        m_beside.get();
     }
 
     void buildAlbum()
@@ -286,6 +289,8 @@ private:
     std::optional<NameParts> m_names;
     std::optional<SiteRun> m_run;
     std::optional<Transaction> m_newTables;
+    /// What beginSite() left to the second thread; it ends before what it uses goes.
+    std::future<void> m_beside;
 };
 
 } // namespace

@@ -10,6 +10,9 @@
 #include "web/links/treelinks.h"
 #include "web/people/personalpage.h"
 
+#include <atomic>
+#include <future>
+
 namespace stemwright
 {
 
@@ -32,6 +35,51 @@ std::optional<char> IndexLetter(const std::string& name)
     return letter >= 'A' && letter <= 'Z' ? std::optional(letter) : std::nullopt;
 }
 
+/// The personal pages, which two threads write side by side, each taking the next one that is left. One that composes
+/// what the other one writes was tried, and is slower.
+class PersonalPages
+{
+public:
+    /// `persons` must outlive it.
+    PersonalPages(const SiteRun& run, const std::vector<TreePosition>& persons)
+        : m_run(run), m_persons(persons), m_top(PersonalPageTop(run.application)),
+          m_second(std::async(std::launch::async, [this] {
+              PageFile page;
+              while (writeNext(page)) {
+              }
+          }))
+    {
+    }
+
+    PersonalPages(const PersonalPages&) = delete;
+    PersonalPages& operator=(const PersonalPages&) = delete;
+
+    /// Without finish() before, the pages that are left are not written any more.
+    ~PersonalPages() { m_next = m_persons.size(); }
+
+    /// Writes one of the pages that are left; false when there is none.
+    bool writeNext(PageFile& page)
+    {
+        const std::size_t number = m_next++;
+        if (number >= m_persons.size()) {
+            return false;
+        }
+        WritePersonalPage(m_run, m_top, page, m_persons[number]);
+        return true;
+    }
+
+    /// Waits for the last page, and throws what kept the second thread from writing one.
+    void finish() { m_second.get(); }
+
+private:
+    const SiteRun& m_run;
+    const std::vector<TreePosition>& m_persons;
+    std::string m_top;
+    std::atomic<std::size_t> m_next = 0;
+    /// Goes first, since it uses the others.
+    std::future<void> m_second;
+};
+
 class IndexWriter
 {
 public:
@@ -39,9 +87,6 @@ public:
     {
         m_index.begin(run.file("NameIndex.html"));
         page().append(FillTemplate(ReadTemplate(run.application.file(QStringLiteral("html/nameindextop.html"))), {}));
-        if (run.settings.personalPages) {
-            m_personalTop = PersonalPageTop(run.application);
-        }
     }
 
     void writePerson(TreePosition person)
@@ -62,9 +107,6 @@ public:
         AppendInfoLinks(page(), m_run, person);
         page().append(PageFile::lineBreak);
         m_index.checkpoint();
-        if (m_run.settings.personalPages) {
-            WritePersonalPage(m_run, m_personalTop, m_personal, person);
-        }
     }
 
     void finish()
@@ -92,8 +134,6 @@ private:
 
     const SiteRun& m_run;
     PageFile m_index;
-    PageFile m_personal;
-    std::string m_personalTop;
     std::optional<char> m_letter;
 };
 
@@ -129,11 +169,22 @@ std::string TextAfterName(const SiteRun& run, TreePosition person)
 void WriteNameIndex(const SiteRun& run, const std::vector<TreePosition>& persons, StepProgress& progress)
 {
     IndexWriter writer(run);
+    std::optional<PersonalPages> pages;
+    if (run.settings.personalPages) {
+        pages.emplace(run, persons);
+    }
+    PageFile page;
     for (const TreePosition person : persons) {
         progress.report([&] { return run.names.displayName(person); });
         writer.writePerson(person);
+        if (pages) {
+            pages->writeNext(page);
+        }
     }
     writer.finish();
+    if (pages) {
+        pages->finish();
+    }
 }
 
 } // namespace stemwright
