@@ -141,6 +141,11 @@ QString IsNotAFolder(const QString& path)
     return QStringLiteral("The output folder %1 is a file. Please choose another folder.").arg(Native(path));
 }
 
+QString IsNotWritable(const QString& path)
+{
+    return QStringLiteral("Nothing can be written into %1. Please choose another folder.").arg(Native(path));
+}
+
 QString IsRootFolder(const QString& folder)
 {
     return QStringLiteral("%1 is the root of the file system. Please choose a folder that holds nothing but the site.")

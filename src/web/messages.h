@@ -33,6 +33,7 @@ Message OutputFolderHoldsFiles(const QString& folder);
 QString NoOutputFolder();
 QString IsNotAFullPath(const QString& folder);
 QString IsNotAFolder(const QString& path);
+QString IsNotWritable(const QString& path);
 QString IsRootFolder(const QString& folder);
 QString HoldsHomeFolder(const QString& folder);
 QString HoldsFamilyFile(const QString& folder);

@@ -106,6 +106,20 @@ std::optional<QString> WhyNoOutputFolder(const QString& folder, const ProtectedP
     return std::nullopt;
 }
 
+std::optional<QString> WarningOfOutputFolder(const QString& folder, const ProtectedPlaces& places)
+{
+    if (std::optional<QString> reason = WhyNoOutputFolder(folder, places)) {
+        return reason;
+    }
+    // The folder itself, or where the first of the folders that are missing would be made.
+    QFileInfo place(folder);
+    while (!place.exists() && !place.isRoot()) {
+        place.setFile(place.absolutePath());
+    }
+    return place.isDir() && place.isWritable() ? std::nullopt
+                                               : std::optional(webmessages::IsNotWritable(place.absoluteFilePath()));
+}
+
 std::optional<OutputFolder> PrepareOutputFolder(const QString& folder, const ProtectedPlaces& places, Talk& talk)
 {
     if (const std::optional<QString> reason = WhyNoOutputFolder(folder, places)) {

@@ -262,6 +262,8 @@ TEST_F(WizardTest, WhatIsRefusedIsToldAndStaysToBeMended)
         Type(wizard, "txtWebPageFolder", "/");
         EXPECT_TRUE(TextOf(wizard, "lblRefusedWebPageFolder").isEmpty());
         EXPECT_TRUE(TextOf(wizard, "lblFolderWarning").contains("the root of the file system"));
+        Type(wizard, "txtWebPageFolder", world.path("letter.gif") + "/site");
+        EXPECT_TRUE(TextOf(wizard, "lblFolderWarning").startsWith("Nothing can be written into"));
         lose(wizard);
     });
 }

@@ -42,7 +42,7 @@ private:
     {
         // An empty folder is refused, which is told already.
         const QString folder = m_folder->text().trimmed().isEmpty() ? QString() : stored("WebPageFolder");
-        m_warning->setText(folder.isEmpty() ? QString() : WhyNoOutputFolder(folder, m_places).value_or(QString()));
+        m_warning->setText(folder.isEmpty() ? QString() : WarningOfOutputFolder(folder, m_places).value_or(QString()));
     }
 
     void browse()

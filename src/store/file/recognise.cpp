@@ -150,9 +150,7 @@ QString RequireFamilyFile(Connection& connection)
         return version;
     }
     RequireNothingElse(connection, Indexes::Current);
-    for (const TableDefinition& table : FamilyFileTables()) {
-        RequireTable(connection, table);
-    }
+    RequireTables(connection);
     return version;
 }
 

@@ -7,10 +7,18 @@
 namespace stemwright
 {
 
-QStringList ColumnsOf(Connection& connection, const QString& table)
+namespace
+{
+
+Statement AskForColumns(Connection& connection)
+{
+    return connection.prepare(QStringLiteral("SELECT name, hidden FROM pragma_table_xinfo(?1)"));
+}
+
+QStringList ColumnsOf(Statement& column, const QString& table)
 {
     QStringList names;
-    Statement column = connection.prepare(QStringLiteral("SELECT name, hidden FROM pragma_table_xinfo(?1)"));
+    column.reset();
     column.bind(1, table);
     while (column.step()) {
         if (column.integer(1) != 0) {
@@ -22,9 +30,9 @@ QStringList ColumnsOf(Connection& connection, const QString& table)
     return names;
 }
 
-void RequireTable(Connection& connection, const TableDefinition& table)
+void RequireTable(Statement& question, const TableDefinition& table)
 {
-    const QStringList columns = ColumnsOf(connection, table.name);
+    const QStringList columns = ColumnsOf(question, table.name);
     if (columns.isEmpty()) {
         RefuseWithoutTable(table.name);
     }
@@ -33,6 +41,29 @@ void RequireTable(Connection& connection, const TableDefinition& table)
             throw Error(QStringLiteral("It is not a whole family file: its table %1 has no column %2.")
                             .arg(table.name, column.name));
         }
+    }
+}
+
+} // namespace
+
+QStringList ColumnsOf(Connection& connection, const QString& table)
+{
+    Statement column = AskForColumns(connection);
+    return ColumnsOf(column, table);
+}
+
+void RequireTable(Connection& connection, const TableDefinition& table)
+{
+    Statement question = AskForColumns(connection);
+    RequireTable(question, table);
+}
+
+void RequireTables(Connection& connection)
+{
+    // Preparing the question takes as long as asking it.
+    Statement question = AskForColumns(connection);
+    for (const TableDefinition& table : FamilyFileTables()) {
+        RequireTable(question, table);
     }
 }
 

@@ -19,6 +19,9 @@ QStringList ColumnsOf(Connection& connection, const QString& table);
 /// Makes sure that the file has a table, with all of its columns.
 void RequireTable(Connection& connection, const TableDefinition& table);
 
+/// Makes sure that the file has all tables of a family file.
+void RequireTables(Connection& connection);
+
 /// The Error of a file that lacks a table.
 [[noreturn]] void RefuseWithoutTable(const QString& table);
 
