@@ -8,6 +8,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
@@ -122,24 +123,6 @@ QString BeginningOfUnfinished(const QFileInfo& target)
                : QString::fromLatin1(QCryptographicHash::hash(name, QCryptographicHash::Sha1).toHex());
 }
 
-/// Removes what programs that no longer run left behind while they made the file `target`.
-void RemoveLeftovers(const QFileInfo& target)
-{
-    const QString begin = BeginningOfUnfinished(target) + u'.';
-    const QString middle = QStringLiteral(".unfinished");
-    const QDir folder = target.absoluteDir();
-    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
-    for (const QString& name : names) {
-        const qsizetype end = name.indexOf(middle, begin.size());
-        bool isNumber = false;
-        const int process =
-            name.startsWith(begin) && end > 0 ? name.mid(begin.size(), end - begin.size()).toInt(&isNumber) : 0;
-        if (isNumber && !IsRunning(process)) {
-            QFile::remove(folder.filePath(name));
-        }
-    }
-}
-
 /// Opens the file with these flags and writes the content; a file that could not be written whole is removed.
 void WriteOut(const QString& path, int flags, const QByteArray& content)
 {
@@ -240,6 +223,17 @@ QString FileItself(const QString& path)
     return place.absoluteFilePath();
 }
 
+void RemoveLeftovers(const QDir& folder, const QString& name)
+{
+    const QRegularExpression unfinished(u'^' + name + QStringLiteral("\\.(\\d+)\\.unfinished"));
+    for (const QString& file : folder.entryList(QDir::Files | QDir::Hidden)) {
+        const QRegularExpressionMatch match = unfinished.match(file);
+        if (match.hasMatch() && !IsRunning(match.captured(1).toInt())) {
+            QFile::remove(folder.filePath(file));
+        }
+    }
+}
+
 bool IsSameFile(const QString& first, const QString& second)
 {
     struct stat left {
@@ -259,7 +253,7 @@ UnfinishedFile::UnfinishedFile(const QString& target, const QString& source)
     const QFileInfo place(m_target);
     m_path = place.absoluteDir().filePath(
         QStringLiteral("%1.%2.unfinished").arg(BeginningOfUnfinished(place)).arg(::getpid()));
-    RemoveLeftovers(place);
+    RemoveLeftovers(place.absoluteDir(), QRegularExpression::escape(BeginningOfUnfinished(place)));
     QFile::remove(m_path);
     const Descriptor made(m_path, O_WRONLY | O_CREAT | O_EXCL, m_permissions ? 0600 : 0666);
     if (!made.isOpen()) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QDir>
 #include <QtCore/QString>
 
 #include <optional>
@@ -41,6 +42,10 @@ void ReplaceFile(const QString& from, const QString& to);
 /// The place to which a path leads through whatever links, as a full path: a file that is put there, or made beside it,
 /// leaves the links as they are. There need be no file in that place.
 QString FileItself(const QString& path);
+
+/// Removes what programs that no longer run left behind, with UnfinishedFile, while they made files of this folder.
+/// `name` is a regular expression for the names that the files would have had.
+void RemoveLeftovers(const QDir& folder, const QString& name);
 
 /// Whether two paths lead to the same existing file, through whatever links.
 bool IsSameFile(const QString& first, const QString& second);

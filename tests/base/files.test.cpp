@@ -123,7 +123,8 @@ TEST(Files, OnlyWhatDeadProgramsLeftIsRemoved)
     const QTemporaryDir folder;
     const QString running = QString("Family.kvf.%1.unfinished").arg(::getppid());
     // Process numbers end long before this one.
-    const QStringList dead = {"Family.kvf.999999999.unfinished", "Family.kvf.999999999.unfinished-journal"};
+    const QStringList dead = {"Family.kvf.999999999.unfinished", "Family.kvf.999999999.unfinished-journal",
+                              "Family.10_59_07.999999999.unfinished"};
     const QStringList others = {running, "Family.kvf.my.unfinished", "Family.kvf", "Other.kvf.999999999.unfinished"};
     for (const QString& name : dead + others) {
         WriteWholeFile(folder.filePath(name), "x");
@@ -131,6 +132,7 @@ TEST(Files, OnlyWhatDeadProgramsLeftIsRemoved)
     {
         const UnfinishedFile clearsAway(folder.filePath("Family.kvf"));
     }
+    RemoveLeftovers(folder.path(), "Family\\.\\d\\d_\\d\\d_\\d\\d");
     QStringList left = others;
     left.sort();
     EXPECT_EQ(FilesIn(folder), left);

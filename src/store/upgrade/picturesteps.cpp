@@ -5,6 +5,7 @@
 #include "album/picturesearch.h"
 #include "album/thumbnail.h"
 #include "base/error.h"
+#include "base/files.h"
 #include "store/upgrade/messages.h"
 #include "store/upgrade/tablechanges.h"
 #include "store/upgrade/upgradesteps.h"
@@ -12,6 +13,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
 
 #include <vector>
 
@@ -112,6 +114,10 @@ void MovePicturesIn(UpgradeRun& run)
 {
     const QString backup = SecondBackupPath(run);
     run.environment.talk.tell(upgrademessages::SecondBackup(backup));
+    // One that did not become whole is known by another time of day.
+    const QFileInfo old(run.path);
+    RemoveLeftovers(old.absoluteDir(),
+                    QRegularExpression::escape(old.completeBaseName()) + QStringLiteral("\\.\\d\\d_\\d\\d_\\d\\d"));
     run.copyFile(backup);
 
     // The name would go with its column, so it is kept in the one that a later step gives to all pictures.

@@ -60,7 +60,9 @@ std::vector<TextWord> AsciiWords(std::string_view text)
             hash = HashedFurther(hash, static_cast<quint64>(upper ? character - 'A' + 'a' : character));
         } else {
             end();
-            clause += EndsClause(QLatin1Char(character)) ? 1 : 0;
+            if (EndsClause(QLatin1Char(character))) {
+                ++clause;
+            }
         }
     }
     end();
