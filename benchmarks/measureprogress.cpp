@@ -6,6 +6,7 @@
 #include "store/file/familyfile.h"
 #include "web/sitebuild.h"
 
+#include <QtCore/QFileInfo>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -60,7 +61,7 @@ double Build(BuilderTalk talk, const QString& path, const QString& folder)
         throw Error(QStringLiteral("The family file does not open."));
     }
     const bench::Stopwatch watch;
-    if (!BuildWebPages(file, {QStringLiteral("Default"), folder}, environment)) {
+    if (!BuildWebPages(file, {QStringLiteral("Default"), QFileInfo(folder).absoluteFilePath()}, environment)) {
         throw Error(QStringLiteral("The site was not built."));
     }
     return watch.seconds();

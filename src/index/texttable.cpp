@@ -30,12 +30,11 @@ void TextTable::appendRow(const Statement& statement, int first)
     m_bytes.append(m_presenceBytes, '\0');
     for (std::size_t column = 0; column < m_columns; ++column) {
         const int source = first + static_cast<int>(column);
-        if (!statement.isNull(source)) {
+        if (const std::optional<std::string_view> text = statement.optionalUtf8(source)) {
             char& presence = m_bytes[begin + column / byteBits];
             presence = static_cast<char>(static_cast<unsigned char>(presence) | Bit(column));
-            const std::string_view text = statement.utf8(source);
-            appendLength(text.size());
-            m_bytes.append(text);
+            appendLength(text->size());
+            m_bytes.append(*text);
         }
     }
 }

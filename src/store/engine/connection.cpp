@@ -255,8 +255,16 @@ QByteArray Statement::rawBytes(int column) const
 
 std::string_view Statement::utf8(int column) const
 {
+    return optionalUtf8(column).value_or("");
+}
+
+std::optional<std::string_view> Statement::optionalUtf8(int column) const
+{
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(m_statement.get(), column));
-    return {text == nullptr ? "" : text, static_cast<std::size_t>(sqlite3_column_bytes(m_statement.get(), column))};
+    if (text == nullptr) {
+        return std::nullopt;
+    }
+    return std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(m_statement.get(), column)));
 }
 
 Connection::Connection(const QString& path, OpenMode mode)

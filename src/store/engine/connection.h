@@ -61,6 +61,8 @@ public:
     QByteArray rawBytes(int column) const;
     /// The column's text as UTF-8, valid until the next step. Null gives an empty view.
     std::string_view utf8(int column) const;
+    /// The same, with no value for Null.
+    std::optional<std::string_view> optionalUtf8(int column) const;
 
 private:
     struct Finalizer {
