@@ -79,6 +79,9 @@ const boxOf = (page, selector) => page.locator(selector).evaluate((element) => {
     const { left, top, right, bottom } = element.getBoundingClientRect();
     return { left, top, right, bottom };
 });
+// A script in a link's address runs some time after the click.
+const arrowPointsTo = (page, number) => page.waitForFunction((wanted) => [...document.querySelectorAll("a[href^='javascript:showArrow']")]
+    .findIndex((link) => link.parentNode.classList.contains("lit")) === wanted, number);
 const visible = (page, n) => page.locator(`#R${n}`).evaluate((layer) => getComputedStyle(layer).visibility === "visible");
 
 for (const [style, screenName, file] of ["OldBook", "Memories"].flatMap((style) => ["desktop", "phone"].flatMap((screen) => [1, 2].map((id) => [style, screen, `PicPage${id}.html`])))) {
@@ -110,12 +113,15 @@ test("the arrow's tip is at the marked point, from whichever side it comes", asy
         const links = page.locator("a[href^='javascript:showArrow']");
         await page.addStyleTag({ content: `${hidesIcons} #picture { opacity: 0 }` });
         await links.nth(0).click();
+        await arrowPointsTo(page, 0);
         const above = await boxOfColour(page, arrow);
         assertNear(above, { left: picture.left + 200 * scale, top: picture.top + 100 * scale }, 4, style);
         await links.nth(1).click();
+        await arrowPointsTo(page, 1);
         const corner = await boxOfColour(page, arrow);
         assertNear(corner, { right: picture.left + 590 * scale, bottom: picture.top + 390 * scale }, 4, style);
         await page.getByText("Hide Arrow").click();
+        await arrowPointsTo(page, -1);
         assert.equal((await boxOfColour(page, arrow)).right, -1);
         await links.nth(0).focus();
         assertNear(await boxOfColour(page, arrow), above, 1, "by focus");
