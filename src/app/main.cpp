@@ -6,8 +6,8 @@
 #include "app/common/messages.h"
 #include "app/frmabout.h"
 #include "app/frmalbum.h"
-#include "base/error.h"
 #include "base/version.h"
+#include "store/engine/engineerror.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QLoggingCategory>
@@ -54,7 +54,7 @@ int Run(Application& program)
         window.start(file);
         return QApplication::exec();
     } catch (const std::exception& exception) {
-        talk.tell(appmessages::Failed(ErrorText(exception)));
+        talk.tell(appmessages::Failed(ReasonText(exception)));
         return 1;
     }
 }

@@ -5,6 +5,7 @@
 #include "base/error.h"
 #include "base/files.h"
 #include "export/messages.h"
+#include "store/engine/engineerror.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -82,7 +83,7 @@ bool ExportTableAsText(const PictureTable& table, const TableExport& wanted, con
         unfinished.putInPlace();
         return outcome == ExportOutcome::Complete;
     } catch (const std::exception& exception) {
-        talk.tell(exportmessages::ExportFailed(ErrorText(exception)));
+        talk.tell(exportmessages::ExportFailed(ReasonText(exception)));
         return false;
     }
 }

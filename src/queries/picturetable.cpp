@@ -5,6 +5,7 @@
 #include "base/error.h"
 #include "base/text.h"
 #include "queries/messages.h"
+#include "store/engine/engineerror.h"
 
 #include <numeric>
 #include <unordered_set>
@@ -167,7 +168,7 @@ std::optional<PictureTable> OpenPictureList(Connection& connection, const Enviro
     try {
         return PictureTable(connection, QueryInUse(connection, environment, queryName).name);
     } catch (const std::exception& exception) {
-        environment.talk.tell(querymessages::ListFailed(ErrorText(exception)));
+        environment.talk.tell(querymessages::ListFailed(ReasonText(exception)));
         return std::nullopt;
     }
 }

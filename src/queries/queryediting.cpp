@@ -6,6 +6,7 @@
 #include "dates/datepicker.h"
 #include "index/fullname.h"
 #include "queries/messages.h"
+#include "store/engine/engineerror.h"
 #include "store/engine/jetdates.h"
 #include "store/file/typedvalues.h"
 
@@ -112,7 +113,7 @@ bool QueryEditing::set(const QString& columnName, const QString& typed)
         write(column, StoredValue(column, typed));
         return true;
     } catch (const std::exception& exception) {
-        m_environment.talk.tell(querymessages::QueryFailed(ErrorText(exception)));
+        m_environment.talk.tell(querymessages::QueryFailed(ReasonText(exception)));
         return false;
     }
 }

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "queries/querymanager.h"
 
-#include "base/error.h"
 #include "queries/messages.h"
 #include "queries/picturequery.h"
+#include "store/engine/engineerror.h"
 #include "store/tables/defaultrows.h"
 
 namespace stemwright
@@ -28,7 +28,7 @@ bool QueryManager::run(const QString& name)
         environment().settings.setValue(setting::picListQueries, setting::defaultPicListQuery, selected());
         return true;
     } catch (const std::exception& exception) {
-        environment().talk.tell(querymessages::QueryFailed(ErrorText(exception)));
+        environment().talk.tell(querymessages::QueryFailed(ReasonText(exception)));
         return false;
     }
 }

@@ -3,6 +3,7 @@
 #include "web/sitebuild.h"
 
 #include "base/error.h"
+#include "store/engine/engineerror.h"
 #include "web/commonpages.h"
 #include "web/links/treelinks.h"
 #include "web/messages.h"
@@ -302,7 +303,7 @@ std::optional<QString> BuildWebPages(FamilyFile& file, const SiteRequest& reques
     } catch (const Stopped&) {
         return std::nullopt;
     } catch (const std::exception& exception) {
-        environment.talk.tell(webmessages::CannotBuild(ErrorText(exception)));
+        environment.talk.tell(webmessages::CannotBuild(ReasonText(exception)));
         return std::nullopt;
     }
 }

@@ -4,6 +4,7 @@
 
 #include "album/modblob.h"
 #include "base/error.h"
+#include "store/engine/engineerror.h"
 #include "web/setup/backgroundstyles.h"
 #include "web/setup/setupmessages.h"
 
@@ -141,7 +142,7 @@ bool SetupEditing::save()
     try {
         m_trees.keep();
     } catch (const std::exception& exception) {
-        m_environment.talk.tell(setupmessages::SetupFailed(ErrorText(exception)));
+        m_environment.talk.tell(setupmessages::SetupFailed(ReasonText(exception)));
         return false;
     }
     return m_changes.save(m_environment.talk, setupmessages::SetupFailed);
@@ -160,7 +161,7 @@ void SetupEditing::saveAndRun(const std::function<void()>& procedure)
     try {
         m_changes.aside(procedure);
     } catch (const std::exception& exception) {
-        m_environment.talk.tell(setupmessages::SetupFailed(ErrorText(exception)));
+        m_environment.talk.tell(setupmessages::SetupFailed(ReasonText(exception)));
     }
 }
 

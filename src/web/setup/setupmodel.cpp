@@ -3,6 +3,7 @@
 #include "web/setup/setupmodel.h"
 
 #include "base/error.h"
+#include "store/engine/engineerror.h"
 #include "web/setup/itemcatalogue.h"
 #include "web/setup/itemselection.h"
 #include "web/setup/setupediting.h"
@@ -110,7 +111,7 @@ bool SaveAsModel(Connection& connection, const QString& setupName, Environment& 
         environment.settings.setDocument(documentName, Written(SetupEditing(connection, environment, setupName)));
         return true;
     } catch (const std::exception& exception) {
-        environment.talk.tell(setupmessages::SetupFailed(ErrorText(exception)));
+        environment.talk.tell(setupmessages::SetupFailed(ReasonText(exception)));
         return false;
     }
 }

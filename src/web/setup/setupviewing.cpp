@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "web/setup/setupviewing.h"
 
-#include "base/error.h"
+#include "store/engine/engineerror.h"
 #include "web/setup/setup.h"
 #include "web/setup/setupmessages.h"
 
@@ -22,7 +22,7 @@ QStringList SetupsToView(Connection& connection, Talk& talk)
             names << statement.text(name);
         }
     } catch (const std::exception& exception) {
-        talk.tell(setupmessages::SetupFailed(ErrorText(exception)));
+        talk.tell(setupmessages::SetupFailed(ReasonText(exception)));
         return {};
     }
     if (names.isEmpty()) {
@@ -45,7 +45,7 @@ std::optional<QString> FindPagesToView(Connection& connection, const QString& se
         }
         talk.tell(setupmessages::PagesNotYetCreated());
     } catch (const std::exception& exception) {
-        talk.tell(setupmessages::SetupFailed(ErrorText(exception)));
+        talk.tell(setupmessages::SetupFailed(ReasonText(exception)));
     }
     return std::nullopt;
 }
