@@ -16,9 +16,9 @@ namespace stemwright
 
 /// What the library offers, reached through its one exported function.
 struct ImageDecoder {
-    /// Whether the file says that its picture lies on its side, so that width and height change places when it is
-    /// shown.
-    bool (*isTurned)(const QByteArray& bytes, ImageFormat format);
+    /// How the picture lies in its file, as EXIF (CIPA DC-008) numbers it: 1 is upright, 2 to 4 are mirrored or stand
+    /// on their heads, 5 to 8 lie on their sides, so that width and height change places when they are shown.
+    int (*orientation)(const QByteArray& bytes, ImageFormat format);
     /// The first frame, decoded no larger than needed and scaled smoothly to `size` as it lies in the file, then turned
     /// upright: the bytes of a Windows bitmap file of 24 bits a pixel, transparent places white. Empty when it
     /// cannot be decoded.

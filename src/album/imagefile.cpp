@@ -36,7 +36,8 @@ ImageFile::ImageFile(QByteArray bytes) : m_bytes(std::move(bytes)), m_structure(
 {
     RequireShowableSize(m_structure);
     if (m_structure.format == ImageFormat::Jpeg) {
-        m_turned = LoadedImageDecoder().isTurned(m_bytes, m_structure.format);
+        constexpr int firstOnItsSide = 5;
+        m_turned = LoadedImageDecoder().orientation(m_bytes, m_structure.format) >= firstOnItsSide;
     }
 }
 

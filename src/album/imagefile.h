@@ -43,6 +43,7 @@ public:
 private:
     QByteArray m_bytes;
     ImageStructure m_structure;
+    /// Whether it lies on its side.
     bool m_turned = false;
 };
 

@@ -23,6 +23,16 @@ public:
 
     bool atEnd() const { return m_position == m_bytes.size(); }
 
+    qsizetype position() const { return m_position; }
+
+    /// Whether these bytes come next.
+    bool isAt(QByteArrayView bytes) const { return QByteArrayView(m_bytes).sliced(m_position).startsWith(bytes); }
+
+    /// From a place that was passed up to here.
+    ByteRange since(qsizetype place) const { return {place, m_position - place}; }
+
+    ByteRange rest() const { return {m_position, m_bytes.size() - m_position}; }
+
     int byte()
     {
         skip(1);
@@ -79,6 +89,9 @@ constexpr int lastRestart = 0xD7;
 constexpr int startOfImage = 0xD8;
 constexpr int endOfImage = 0xD9;
 constexpr int startOfScan = 0xDA;
+constexpr int firstApplicationData = 0xE0;
+constexpr int lastApplicationData = 0xEF;
+constexpr int comment = 0xFE;
 
 bool IsFrame(int marker)
 {
@@ -124,11 +137,22 @@ QSize FrameSize(Walker& walker)
     return {walker.highFirst(), height};
 }
 
+/// Whether a segment whose content comes next only tells of the picture. The kind of file, the colour profile and the
+/// meaning of the colour components are needed to show it.
+bool IsMetadata(int marker, const Walker& content)
+{
+    if (marker == comment) {
+        return true;
+    }
+    return marker >= firstApplicationData && marker <= lastApplicationData && !content.isAt("JFIF") &&
+           !content.isAt("ICC_PROFILE") && !content.isAt("Adobe");
+}
+
 } // namespace jpeg
 
-ImageStructure StructureOfJpeg(Walker& walker)
+void WalkJpeg(Walker& walker, ImageStructure& structure)
 {
-    ImageStructure structure{ImageFormat::Jpeg, {}, 0};
+    structure.passes = 0;
     walker.skip(2);
     int marker = jpeg::NextMarker(walker);
     while (marker != jpeg::endOfImage) {
@@ -139,9 +163,13 @@ ImageStructure StructureOfJpeg(Walker& walker)
             marker = jpeg::NextMarker(walker);
             continue;
         }
+        const qsizetype begin = walker.position() - 2;
         const int length = walker.highFirst() - 2;
         Walker segment = walker;
         walker.skip(std::max(length, 0));
+        if (jpeg::IsMetadata(marker, segment)) {
+            structure.metadata.push_back(walker.since(begin));
+        }
         if (jpeg::IsFrame(marker) && !structure.size.isValid()) {
             structure.size = jpeg::FrameSize(segment);
         }
@@ -155,7 +183,6 @@ ImageStructure StructureOfJpeg(Walker& walker)
     if (structure.size.isEmpty() || structure.passes == 0) {
         RefuseIncomplete();
     }
-    return structure;
 }
 
 namespace gif
@@ -163,6 +190,8 @@ namespace gif
 constexpr int frame = 0x2C;
 constexpr int extension = 0x21;
 constexpr int trailer = 0x3B;
+constexpr int commentExtension = 0xFE;
+constexpr int applicationExtension = 0xFF;
 
 /// Skips the colour table that a descriptor's flags announce.
 void SkipColourTable(Walker& walker, int flags)
@@ -177,6 +206,14 @@ void SkipSubBlocks(Walker& walker)
     for (int length = walker.byte(); length != 0; length = walker.byte()) {
         walker.skip(length);
     }
+}
+
+/// Whether an extension whose content comes next only tells of the picture. How often an animation runs and the colour
+/// profile are needed to show it.
+bool IsMetadata(int label, const Walker& content)
+{
+    return label == commentExtension || (label == applicationExtension && !content.isAt("NETSCAPE2.0") &&
+                                         !content.isAt("ANIMEXTS1.0") && !content.isAt("ICCRGBG1012"));
 }
 
 /// Skips a frame and returns the corner that is farthest from the picture's origin.
@@ -194,11 +231,11 @@ QSize SkipFrame(Walker& walker)
 
 } // namespace gif
 
-ImageStructure StructureOfGif(Walker& walker)
+void WalkGif(Walker& walker, ImageStructure& structure)
 {
     walker.skip(6);
-    const int width = walker.lowFirst();
-    ImageStructure structure{ImageFormat::Gif, {width, walker.lowFirst()}, 1};
+    structure.size.setWidth(walker.lowFirst());
+    structure.size.setHeight(walker.lowFirst());
     const int flags = walker.byte();
     walker.skip(2);
     gif::SkipColourTable(walker, flags);
@@ -213,8 +250,14 @@ ImageStructure StructureOfGif(Walker& walker)
             const QSize corner = gif::SkipFrame(walker);
             firstFrame = firstFrame.isValid() ? firstFrame : corner;
         } else if (block == gif::extension) {
-            walker.skip(1);
+            const qsizetype begin = walker.position() - 1;
+            const int label = walker.byte();
+            Walker content = walker;
+            content.skip(1); // The length of the first sub-block.
             gif::SkipSubBlocks(walker);
+            if (gif::IsMetadata(label, content)) {
+                structure.metadata.push_back(walker.since(begin));
+            }
         } else {
             RefuseIncomplete();
         }
@@ -225,7 +268,16 @@ ImageStructure StructureOfGif(Walker& walker)
     if (firstFrame.isEmpty() || structure.size.isEmpty()) {
         RefuseIncomplete();
     }
-    return structure;
+}
+
+/// Fills the structure as far as the file is whole; then throws.
+void WalkImage(const QByteArray& bytes, ImageStructure& structure)
+{
+    Walker walker(bytes);
+    structure.format == ImageFormat::Jpeg ? WalkJpeg(walker, structure) : WalkGif(walker, structure);
+    if (!walker.atEnd()) {
+        structure.metadata.push_back(walker.rest());
+    }
 }
 
 } // namespace
@@ -248,8 +300,24 @@ ImageStructure StructureOfImage(const QByteArray& bytes)
         throw Error(bytes.isEmpty() ? QStringLiteral("The file is empty.")
                                     : QStringLiteral("It is neither a GIF nor a JPEG picture."));
     }
-    Walker walker(bytes);
-    return *format == ImageFormat::Jpeg ? StructureOfJpeg(walker) : StructureOfGif(walker);
+    ImageStructure structure{.format = *format};
+    WalkImage(bytes, structure);
+    return structure;
+}
+
+std::vector<ByteRange> MetadataOfImage(const QByteArray& bytes)
+{
+    const std::optional<ImageFormat> format = ClaimedFormat(bytes);
+    if (!format) {
+        return {};
+    }
+    ImageStructure structure{.format = *format};
+    try {
+        WalkImage(bytes, structure);
+    } catch (const Error&) {
+        // A browser shows a damaged picture as far as it goes.
+    }
+    return std::move(structure.metadata);
 }
 
 } // namespace stemwright

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "web/commonpages.h"
 
-#include "album/modblob.h"
 #include "base/files.h"
 #include "base/version.h"
 #include "web/html/escape.h"
 #include "web/html/templates.h"
 #include "web/links/treelinks.h"
+#include "web/pictures/picturefiles.h"
 #include "web/setup/backgroundstyles.h"
 
 namespace stemwright
@@ -76,8 +76,7 @@ std::string WriteEmblem(const SiteRun& run, Connection& connection)
         return "graphics/spacer.gif";
     }
     const std::string name = "emblem." + type.toStdString();
-    SaveFieldToFile(connection, {QStringLiteral("WebSiteInfo"), QStringLiteral("EmblemPicture"), run.setup.row},
-                    run.file(name));
+    CopyPicture(run, connection, {QStringLiteral("WebSiteInfo"), QStringLiteral("EmblemPicture"), run.setup.row}, name);
     return name;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "album/imagefile.h"
 
+#include "album/imagemetadata.h"
 #include "album/testpictures.h"
 #include "album/thumbnail.h"
 #include "base/error.h"
@@ -110,6 +111,46 @@ TEST(ImageFile, TurnsPicturesUpright)
         for (std::size_t corner = 0; corner < corners.size(); ++corner) {
             EXPECT_TRUE(Alike(thumbnail.pixel(corners[corner]), cornerColours[corner])) << orientation << ' ' << corner;
         }
+    }
+}
+
+TEST(ImageMetadata, IsAllThatGoesWithoutIt)
+{
+    const auto segment = [](char marker, const QByteArray& content) {
+        return QByteArray("\xFF") + marker + QByteArray(1, '\0') + static_cast<char>(content.size() + 2) + content;
+    };
+    const QByteArray exif = segment('\xE1', "Exif SECRET");
+    const QByteArray profile = segment('\xE2', "ICC_PROFILE kept");
+    const QByteArray jpeg = CornersJpeg();
+    const qsizetype behindStart = 2;
+    const QByteArray plain = QByteArray(jpeg).insert(behindStart, profile + segment('\xEE', "Adobe kept"));
+    const QByteArray telling =
+        QByteArray(jpeg).insert(behindStart, segment('\xE1', "http://ns.adobe.com/xap/1.0/ SECRET") + profile + exif +
+                                                 segment('\xEE', "Adobe kept") + segment('\xE2', "MPF SECRET") +
+                                                 segment('\xED', "Photoshop 3.0 SECRET") + segment('\xFE', "SECRET"));
+    const QByteArray gif = AnimatedGif();
+    const qsizetype frame = gif.indexOf(QByteArray("\x21\xF9", 2));
+    const QByteArray loop("\x21\xFF\x0BNETSCAPE2.0\x03\x01\0\0\0", 19);
+    const QByteArray plainGif = QByteArray(gif).insert(frame, loop);
+    const QByteArray remarks("\x21\xFE\x06SECRET\0\x21\xFF\x0BXMP DataXMP\x06SECRET\0", 32);
+    const std::vector<std::pair<QByteArray, QByteArray>> cases = {
+        {jpeg, jpeg},
+        {telling, plain},
+        {telling + jpeg.left(50) + "SECRET", plain},
+        {telling.chopped(20), plain.chopped(20)},
+        {gif, gif},
+        {QByteArray(gif).insert(frame, remarks + loop) + "SECRET", plainGif},
+        {"\x89PNG of an old album", "\x89PNG of an old album"},
+        {{}, {}},
+    };
+    for (const auto& [bytes, bare] : cases) {
+        EXPECT_EQ(WithoutMetadata(bytes), bare) << bytes.left(40).toStdString();
+    }
+    for (int orientation = 1; orientation <= 8; ++orientation) {
+        const QByteArray turned = ReadWholeFile(TestData(QString("album/turned%1.jpg").arg(orientation)));
+        const QByteArray bare = WithoutMetadata(QByteArray(turned).insert(turned.size() - 2, exif));
+        EXPECT_FALSE(bare.contains("SECRET")) << orientation;
+        EXPECT_TRUE(ImageFile(bare).bitmapOf({160, 96}) == ImageFile(turned).bitmapOf({160, 96})) << orientation;
     }
 }
 

@@ -131,13 +131,17 @@ TEST(AlbumPages, WhichPicturesArePublishedAndInWhatOrder)
 TEST(AlbumPages, NothingNamesHiddenPersons)
 {
     AlbumSite site;
-    site.setup("PersPages = 1, HideLiving = 1, Pictures4ThisTreeOnly = 0");
-    site.picture(1, "Rectangle = -1, Title = 'Old Vera and Jane', Place = 'With VERA at sea', "
-                    "PicDescr = 'Jane, then' || char(10) || 'Vera.'")
+    // A JPEG begins with a comment. A small picture, a large one and the emblem are copied in different ways.
+    const QString comment("CAST(X'FFD8FFFE000656455241FFDB' || printf('%.*c', %1, 'x') AS BLOB)");
+    site.setup("PersPages = 1, HideLiving = 1, Pictures4ThisTreeOnly = 0, EmblemFiletype = 'jpg', EmblemPicture = " +
+               comment.arg(10));
+    site.picture(1, "Picture = " + comment.arg(1000) +
+                        ", Rectangle = -1, Title = 'Old Vera and Jane', Place = 'With VERA at sea', "
+                        "PicDescr = 'Jane, then' || char(10) || 'Vera.'")
         .mark(1, 13, "Vivid, Vera", "71, 72, 73, 74")
         .mark(1, 5, "Hart, Jane", "1, 2, 3, 4")
         .mark(1, 0, "Aunt vera, née VIVID", "81, 82, 83, 84");
-    site.picture(2, "Title = 'Veranda with Vivid lights'").mark(2, 5, "Jane");
+    site.picture(2, "Picture = " + comment.arg(2'000'000) + ", Title = 'Veranda with Vivid lights'").mark(2, 5, "Jane");
     site.picture(3).mark(3, 13, "Vera Vivid");
     site.talk.expect("The output folder").expect("Hidden persons in picture texts");
     ASSERT_TRUE(BuildWebPages(site.file, {"Default", site.site()}, site.environment));
@@ -150,6 +154,8 @@ TEST(AlbumPages, NothingNamesHiddenPersons)
     EXPECT_THAT(site.page("PicPage1.html"), AllOf(HasSubstr("&lt;No title&gt;"), HasSubstr("ID=\"R1\""),
                                                   Not(HasSubstr("R2")), HasSubstr("Jane</A>")));
     EXPECT_THAT(site.page("ListOfPics.html"), HasSubstr("Veranda with Vivid lights"));
+    EXPECT_EQ(site.page("Pic2.jpg"), "\xFF\xD8\xFF\xDB" + std::string(2'000'000, 'x'));
+    EXPECT_EQ(site.page("emblem.jpg"), "\xFF\xD8\xFF\xDBxxxxxxxxxx");
     EXPECT_FALSE(site.has("PicPage3.html") || site.has("Pic3.jpg") || site.has("Thumb_3.bmp"));
     EXPECT_FALSE(site.has("PicList13.html") || site.has("Thumbs_13_1.html"));
 }

@@ -17,9 +17,9 @@ SiteWorld::SiteWorld(const QString& application_) : build(newFamilyFile().connec
     setup("EmblemPicture = NULL");
 }
 
-SiteWorld& SiteWorld::setup(const char* assignments)
+SiteWorld& SiteWorld::setup(const QString& assignments)
 {
-    build.run("UPDATE WebSiteInfo SET " + QString(assignments));
+    build.run("UPDATE WebSiteInfo SET " + assignments);
     return *this;
 }
 

@@ -22,7 +22,7 @@ public:
     explicit SiteWorld(const QString& application = TestData("web/share"));
 
     /// Sets columns of the setup: "PersPages = 1, HideLiving = 1".
-    SiteWorld& setup(const char* assignments);
+    SiteWorld& setup(const QString& assignments);
     /// Gives the first tree this head, or adds a tree.
     SiteWorld& head(int id, const char* name, const char* display = "Outline");
     /// Adds an item to the setup as its stored record, the fields separated by "|".

@@ -44,9 +44,26 @@ QImage OnWhite(const QImage& image)
     return flat;
 }
 
-bool IsTurned(const QByteArray& bytes, ImageFormat format)
+int Orientation(const QByteArray& bytes, ImageFormat format)
 {
-    return BytesReader(bytes, format)->transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    switch (BytesReader(bytes, format)->transformation()) {
+    case QImageIOHandler::TransformationMirror:
+        return 2;
+    case QImageIOHandler::TransformationRotate180:
+        return 3;
+    case QImageIOHandler::TransformationFlip:
+        return 4;
+    case QImageIOHandler::TransformationFlipAndRotate90:
+        return 5;
+    case QImageIOHandler::TransformationRotate90:
+        return 6;
+    case QImageIOHandler::TransformationMirrorAndRotate90:
+        return 7;
+    case QImageIOHandler::TransformationRotate270:
+        return 8;
+    default:
+        return 1;
+    }
 }
 
 QByteArray ScaledBitmap(const QByteArray& bytes, ImageFormat format, QSize size)
@@ -71,6 +88,6 @@ QByteArray ScaledBitmap(const QByteArray& bytes, ImageFormat format, QSize size)
 /// The library's one entry point.
 extern "C" Q_DECL_EXPORT const stemwright::ImageDecoder* stemwrightImageDecoder()
 {
-    static const stemwright::ImageDecoder decoder{&stemwright::IsTurned, &stemwright::ScaledBitmap};
+    static const stemwright::ImageDecoder decoder{&stemwright::Orientation, &stemwright::ScaledBitmap};
     return &decoder;
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "web/pictures/picturefiles.h"
 
-#include "album/modblob.h"
+#include "album/imagemetadata.h"
 #include "base/error.h"
 #include "base/files.h"
 #include "dates/encodeddate.h"
@@ -37,6 +37,16 @@ std::string DayOf(const QString& modified)
     return DateText(DateQualifier::Exact, day.day(), day.month(), day.year()).trimmed().toStdString();
 }
 
+bool HidesPersons(const SiteRun& run)
+{
+    return run.settings.protectedPersons == ProtectedPersons::Hidden;
+}
+
+QByteArray Published(const SiteRun& run, const QByteArray& picture)
+{
+    return HidesPersons(run) ? WithoutMetadata(picture) : picture;
+}
+
 } // namespace
 
 PictureFilesWriter::PictureFilesWriter(const SiteRun& run, Connection& connection)
@@ -66,13 +76,22 @@ PictureFiles PictureFilesWriter::write(const PublishedPicture& picture)
         WriteWholeFile(m_run.file(files.thumbnail), thumbnail);
     }
     if (m_select.isNull(8)) {
-        SaveFieldToFile(m_connection, {QStringLiteral("AlbumTOC"), QStringLiteral("Picture"), picture.id},
-                        m_run.file(files.picture));
+        CopyPicture(m_run, m_connection, {QStringLiteral("AlbumTOC"), QStringLiteral("Picture"), picture.id},
+                    files.picture);
     } else {
-        WriteWholeFile(m_run.file(files.picture), m_select.rawBytes(8));
+        WriteWholeFile(m_run.file(files.picture), Published(m_run, m_select.rawBytes(8)));
     }
     m_select.reset();
     return files;
+}
+
+void CopyPicture(const SiteRun& run, Connection& connection, const BlobField& field, std::string_view name)
+{
+    const QString file = run.file(name);
+    SaveFieldToFile(connection, field, file);
+    if (HidesPersons(run)) {
+        WriteWholeFile(file, Published(run, ReadWholeFile(file)));
+    }
 }
 
 } // namespace stemwright

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "album/modblob.h"
 #include "album/picturerecord.h"
 #include "web/run/siterun.h"
 
-/// Copies pictures and thumbnails into the site, byte for byte, and reads with them what only a picture's own page
-/// needs. One query a picture, prepared once; only one picture is in memory, and of a very large one only a piece.
-/// Throws Error when a file cannot be written; reading fails as the engine fails. Stands on the run.
+/// Copies pictures and thumbnails into the site, and reads with them what only a picture's own page needs. Pictures are
+/// copied byte for byte, but without their metadata if the site hides persons: cameras and other programs write there
+/// who is on a picture, and where it was taken. One query a picture, prepared once; only one picture is in memory.
+/// Throws Error when a file cannot be written; reading fails as the engine fails. Stands on the run and on the album.
 namespace stemwright
 {
 
@@ -38,5 +40,8 @@ private:
     Connection& m_connection;
     Statement m_select;
 };
+
+/// Copies any other picture of the family file into the site under this name.
+void CopyPicture(const SiteRun& run, Connection& connection, const BlobField& field, std::string_view name);
 
 } // namespace stemwright
