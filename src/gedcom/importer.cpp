@@ -188,6 +188,16 @@ void TreeImport::writeSchema()
     }
 }
 
+/// Tells why a file would leave nobody in the tree.
+[[noreturn]] void RefuseEmptyTree(const ImportReport& report)
+{
+    if (report.skippedIndividuals == 0) {
+        throw Error(gedcommessages::NoIndividuals());
+    }
+    const LossNote& first = report.of(Loss::SkippedRecord).notes.front();
+    throw Error(gedcommessages::NobodyTaken(report.skippedIndividuals, first.line, first.subject));
+}
+
 /// Rebuilds the tree in a transaction. What stood before a duplicate is kept; an exception undoes everything.
 std::optional<Message> ImportInOneAction(Connection& connection, const QString& path, Talk& talk, ImportReport& report)
 {
@@ -198,9 +208,8 @@ std::optional<Message> ImportInOneAction(Connection& connection, const QString& 
     Transaction transaction(connection);
     const bool hadIndividuals = HasIndividuals(connection);
     std::optional<Message> duplicate = RebuildTree(file, connection, *progress, report);
-    if (hadIndividuals && report.individuals == 0 && report.skippedIndividuals > 0) {
-        const LossNote& first = report.of(Loss::SkippedRecord).notes.front();
-        throw Error(gedcommessages::NobodyTaken(report.skippedIndividuals, first.line, first.subject));
+    if (hadIndividuals && report.individuals == 0) {
+        RefuseEmptyTree(report);
     }
     transaction.commit();
     report.outcome = duplicate ? ImportOutcome::StoppedAtDuplicate : ImportOutcome::Completed;

@@ -131,6 +131,14 @@ QString NoRecords()
         "your genealogy program. Your family tree was left as it was.");
 }
 
+QString NoIndividuals()
+{
+    return QStringLiteral(
+        "There is no individual in the GEDCOM file. Please look whether it is the file that you meant, "
+        "and whether your genealogy program has exported the whole tree. Your family tree was left as "
+        "it was.");
+}
+
 QString NobodyTaken(qint64 individuals, qint64 line, const QString& identifier)
 {
     return QStringLiteral(

@@ -28,6 +28,7 @@ QString EmptyFile();
 QString ZipArchive();
 QString BinaryFile();
 QString NoRecords();
+QString NoIndividuals();
 /// `line` has the first identifier that is no number.
 QString NobodyTaken(qint64 individuals, qint64 line, const QString& identifier);
 QString NoColumnsFor(const QString& stem, const QString& label, qint64 line);

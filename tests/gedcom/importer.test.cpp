@@ -207,8 +207,8 @@ TEST(Importer, LeavesTheOldTreeWhenItFails)
         {ManyEvents("INDI", 51), "The GEDCOM file has more kinds of events"},
         {"0 HEAD\n0 @X1@ INDI\n0 INDI\n0 @F1@ FAM\n0 TRLR\n",
          "None of the 2 individuals in the GEDCOM file can be imported, because their identifiers are not such numbers "
-         "as "
-         "in @I12@ (line 2: @X1@)"}};
+         "as in @I12@ (line 2: @X1@)"},
+        {"0 HEAD\n0 @F1@ FAM\n0 TRLR\n", "There is no individual in the GEDCOM file."}};
     for (const auto& [content, reason] : cases) {
         world.talk.expect(reason);
         EXPECT_FALSE(ImportGedcom(connection, world.write("bad.ged", content), world.environment, report));
