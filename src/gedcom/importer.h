@@ -15,8 +15,8 @@ namespace stemwright
 
 /// Imports the GEDCOM file at `path`. All of it is one transaction, or a part of the caller's. True when it ran to its
 /// end. False when it failed, with all tables as they were, or when a duplicate identifier stopped it, with the tables
-/// as far as they were filled (ImportReport::outcome tells which); the user was told why. A file that would leave nobody in
-/// a tree that has individuals fails. The report is set in every case.
+/// as far as they were filled (ImportReport::outcome tells which); the user was told why. A file that would leave
+/// nobody in a tree that has individuals fails. The report is set in every case.
 bool ImportGedcom(Connection& connection, const QString& path, Environment& environment, ImportReport& report);
 
 /// Opens a GEDCOM file for reading. Throws Error when that cannot be done, when it is no file at all, but a folder or

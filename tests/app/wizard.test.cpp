@@ -118,6 +118,8 @@ TEST_F(WizardTest, FromANewSetupToTheFinishedSiteOfTheSample)
             EXPECT_EQ(wizard.windowTitle(), "Create Web Pages Wizard - All cats");
             EXPECT_FALSE(IsEnabled(wizard, "cmdBack") || IsEnabled(wizard, "cmdFinish") ||
                          IsEnabled(wizard, "cmdSave"));
+            EXPECT_EQ(Find<QWidget>(wizard, "cmdFinish").toolTip(),
+                      "You have not yet selected the tree head for at least one tree.");
             next(wizard);
             Press(wizard, "optSubsite");
             Type(wizard, "txtHomePageName", "");
@@ -246,7 +248,9 @@ TEST_F(WizardTest, WhatIsRefusedIsToldAndStaysToBeMended)
         title.setFocus();
         QTest::keyClicks(&title, "yz");
         EXPECT_TRUE(TextOf(wizard, "lblRefusedSiteTitle").contains("255"));
-        for (const char* button : {"cmdNext", "cmdBack"}) {
+        hand.answer("You are about to lose all changes", QMessageBox::No);
+        Press(wizard, "cmdCancel");
+        for (const char* button : {"cmdNext", "cmdBack", "cmdSave"}) {
             hand.answer("Web Site Setup");
             Press(wizard, button);
             EXPECT_EQ(pageOf(wizard), "First page");

@@ -154,6 +154,11 @@ QString OriginOfItem(const QString& table)
                                                 : QStringLiteral("Belongs to the individual");
 }
 
+QString SelectSetupExplanation()
+{
+    return QStringLiteral("Choose the setup whose web pages you want to see.");
+}
+
 QString UploadExplanation()
 {
     return QStringLiteral(

@@ -46,6 +46,7 @@ QString ItemsToInclude();
 /// What an item of this table belongs to: "Indi", "Fam" or "Fam2Child".
 QString OriginOfItem(const QString& table);
 /// What the settings for uploading are good for.
+QString SelectSetupExplanation();
 QString UploadExplanation();
 /// The viewer lost its page.
 QString PageCannotBeShown();

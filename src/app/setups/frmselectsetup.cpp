@@ -3,10 +3,12 @@
 #include "app/setups/frmselectsetup.h"
 
 #include "app/common/controls.h"
+#include "app/common/messages.h"
 #include "app/viewer/frmwebbrowser.h"
 #include "web/setup/setupviewing.h"
 
 #include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QVBoxLayout>
 
@@ -24,13 +26,16 @@ public:
     {
         setObjectName(QStringLiteral("frmSelectSetup"));
         setWindowTitle(QStringLiteral("Select Setup for Viewing"));
-        ResizeForLetters(*this, 340, 260);
+        ResizeForLetters(*this, 360, 280);
         lstSetups->setObjectName(QStringLiteral("lstSetups"));
         lstSetups->addItems(setups);
         lstSetups->setCurrentRow(0);
         // Return presses OK by itself.
         connect(lstSetups, &QListWidget::itemDoubleClicked, this, &frmSelectSetup::accept);
+        QLabel* explanation = MakeLabel("lblExplanation", appmessages::SelectSetupExplanation());
+        explanation->setWordWrap(true);
         auto* layout = new QVBoxLayout(this);
+        layout->addWidget(explanation);
         layout->addWidget(lstSetups, 1);
         layout->addWidget(MakeOkCancel(*this));
     }

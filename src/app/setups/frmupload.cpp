@@ -54,6 +54,10 @@ private:
         connect(txtRootSubdir, &QLineEdit::textChanged, this, &frmUpload::showFullPath);
         connect(txtSubdir, &QLineEdit::textChanged, this, &frmUpload::showFullPath);
         txtFullPath->setReadOnly(true);
+        txtFullPath->setFrame(false);
+        QPalette palette;
+        palette.setBrush(QPalette::Base, Qt::transparent);
+        txtFullPath->setPalette(palette);
         txtPassword->setEchoMode(QLineEdit::Password);
 
         spnPort->setObjectName(QStringLiteral("spnPort"));

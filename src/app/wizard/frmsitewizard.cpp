@@ -53,7 +53,9 @@ public:
 
     void reject() override
     {
-        if (m_editing.cancel()) {
+        const bool losesRefused = page(m_current).holdsRefused() && !m_editing.edited();
+        if (losesRefused ? m_context.environment.talk.ask(setupmessages::LoseChanges()) == Button::Yes
+                         : m_editing.cancel()) {
             QDialog::reject();
         }
     }
@@ -152,10 +154,13 @@ private:
 
     void setButtons()
     {
-        cmdSave->setEnabled(m_editing.edited());
+        cmdSave->setEnabled(m_editing.edited() || page(m_current).holdsRefused());
         cmdBack->setEnabled(m_current > 0);
         cmdNext->setEnabled(m_current < last());
-        cmdFinish->setEnabled(m_editing.isComplete());
+        const std::optional<Message> obstacle = m_editing.obstacle();
+        cmdFinish->setEnabled(!obstacle);
+        // The first sentence tells what is missing, those behind it what to press in the message.
+        cmdFinish->setToolTip(obstacle ? obstacle->text.section(u'.', 0, 0) + u'.' : QString());
     }
 
     /// What was refused has to be mended before any page is left; what is missing only keeps from going on.

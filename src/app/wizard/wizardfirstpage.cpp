@@ -10,7 +10,6 @@
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QPushButton>
 
 namespace stemwright
@@ -51,9 +50,7 @@ public:
         addLine(title, "SiteTitle");
         QLabel* caption = addCaption(QStringLiteral("Enter the te&xt you want to appear on the first page. E.g.:"));
         addExample(wizardtexts::StoryExample());
-        QPlainTextEdit* story = addMemo(caption, "TitleStory");
-        constexpr int fewestLines = 4;
-        story->setMinimumHeight(fewestLines * story->fontMetrics().lineSpacing());
+        addMemo(caption, "TitleStory");
     }
 
 private:

@@ -29,6 +29,19 @@ QString ControlName(const char* kind, const char* column)
     return QLatin1StringView(kind) + QLatin1StringView(column);
 }
 
+/// Takes the room that the page has left. It asks for so little that the page need not scroll.
+class Memo : public QPlainTextEdit
+{
+public:
+    Memo() { setMinimumHeight(sizeHint().height()); }
+
+    QSize sizeHint() const override
+    {
+        constexpr int fewestLines = 4;
+        return {QPlainTextEdit::sizeHint().width(), fewestLines * fontMetrics().lineSpacing()};
+    }
+};
+
 QLabel* Heading(const QString& text)
 {
     QLabel* heading = MakeLabel("lblPage", text);
@@ -65,16 +78,26 @@ QWidget* WizardForm::firstControl() const
     return nullptr;
 }
 
+std::vector<WizardForm::Line>::const_iterator WizardForm::firstRefused() const
+{
+    return std::find_if(m_lines.begin(), m_lines.end(),
+                        [](const Line& line) { return !line.refusal->text().isEmpty(); });
+}
+
+bool WizardForm::holdsRefused() const
+{
+    return firstRefused() != m_lines.end();
+}
+
 bool WizardForm::settle()
 {
-    for (const Line& line : m_lines) {
-        if (!line.refusal->text().isEmpty()) {
-            m_context.environment.talk.tell(setupmessages::SetupFailed(line.refusal->text()));
-            line.box->setFocus();
-            return false;
-        }
+    const auto refused = firstRefused();
+    if (refused == m_lines.end()) {
+        return true;
     }
-    return true;
+    m_context.environment.talk.tell(setupmessages::SetupFailed(refused->refusal->text()));
+    refused->box->setFocus();
+    return false;
 }
 
 QLabel* WizardForm::addText(const char* name, const QString& text)
@@ -130,9 +153,9 @@ void WizardForm::write(const Line& line, const char* column)
     m_context.changed();
 }
 
-QPlainTextEdit* WizardForm::addMemo(QLabel* caption, const char* column)
+void WizardForm::addMemo(QLabel* caption, const char* column)
 {
-    auto* box = new QPlainTextEdit;
+    auto* box = new Memo;
     box->setObjectName(ControlName("txt", column));
     box->setTabChangesFocus(true);
     caption->setBuddy(box);
@@ -147,7 +170,6 @@ QPlainTextEdit* WizardForm::addMemo(QLabel* caption, const char* column)
             box->setPlainText(stored(column));
         }
     });
-    return box;
 }
 
 QSpinBox* WizardForm::number(const char* column)

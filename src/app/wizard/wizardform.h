@@ -11,7 +11,6 @@
 class QCheckBox;
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 class QSpinBox;
 class QVBoxLayout;
 
@@ -47,7 +46,10 @@ public:
     /// The control with which the page begins; null when it has none.
     QWidget* firstControl() const;
 
-    /// False, after the user was told, while a text stands here that was refused.
+    /// Whether a text stands here that was refused.
+    bool holdsRefused() const;
+
+    /// False, after the user was told, while it does.
     bool settle();
 
 protected:
@@ -61,7 +63,7 @@ protected:
     QLabel* addCaption(const QString& text);
     /// Adds the text box of a caption, with further controls at its right. Its object name is "txt" and the column.
     QLineEdit* addLine(QLabel* caption, const char* column, std::initializer_list<QWidget*> beside = {});
-    QPlainTextEdit* addMemo(QLabel* caption, const char* column);
+    void addMemo(QLabel* caption, const char* column);
 
     /// Controls for the page to place: "spn" and the column, "chk" and the column.
     QSpinBox* number(const char* column);
@@ -81,6 +83,7 @@ private:
         Notice* refusal;
     };
 
+    std::vector<Line>::const_iterator firstRefused() const;
     void write(const Line& line, const char* column);
 
     const WizardContext& m_context;

@@ -127,14 +127,14 @@ bool SetupEditing::leavePage(WizardPage page)
     return true;
 }
 
-bool SetupEditing::isComplete() const
+std::optional<Message> SetupEditing::obstacle() const
 {
     Setup complete = setup();
     if (const std::optional<TreeDefinition>& edited = m_trees.edited()) {
         const auto isEdited = [&edited](const TreeDefinition& tree) { return tree.number == edited->number; };
         std::replace_if(complete.trees.begin(), complete.trees.end(), isEdited, *edited);
     }
-    return !CheckSetup(complete);
+    return CheckSetup(complete);
 }
 
 bool SetupEditing::save()

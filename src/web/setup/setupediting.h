@@ -35,8 +35,8 @@ public:
 
     TreeEditing& trees() { return m_trees; }
 
-    /// Whether nothing of the setup keeps its pages from being built, the tree definition being edited included.
-    bool isComplete() const;
+    /// What keeps the setup's pages from being built, the tree definition being edited included.
+    std::optional<Message> obstacle() const;
 
     /// Whether there are changes that were not saved.
     bool edited() const { return m_changes.any() || m_trees.changed(); }
