@@ -75,6 +75,11 @@ QString EntryOf(const QString& display, const QString& headName)
     return QStringLiteral("%1 for: %2. Entry of:").arg(display, headName);
 }
 
+QString CollapsiTreeFor(const QString& headName)
+{
+    return QStringLiteral("CollapsiTree for: %1").arg(headName);
+}
+
 QString BuildingIndex()
 {
     return QStringLiteral("Building index of names:");

@@ -20,6 +20,7 @@ QString CopyingStandardFiles();
 QString LoadingIndividuals();
 QString BuildingTheTrees();
 QString EntryOf(const QString& display, const QString& headName);
+QString CollapsiTreeFor(const QString& headName);
 QString BuildingIndex();
 QString BuildingIndexAndPersonalPages();
 QString ProcessingPicture();

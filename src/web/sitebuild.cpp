@@ -165,9 +165,12 @@ private:
     void buildTrees()
     {
         for (const PublishedTree& tree : m_run->trees) {
-            StepProgress progress(
-                *m_progress, webmessages::EntryOf(DisplayName(tree.display), QString::fromStdString(tree.headName)),
-                tree.walk.entries().size());
+            const QString headName = QString::fromStdString(tree.headName);
+            StepProgress progress(*m_progress,
+                                  tree.display == TreeDisplay::CollapsiTree
+                                      ? webmessages::CollapsiTreeFor(headName)
+                                      : webmessages::EntryOf(DisplayName(tree.display), headName),
+                                  tree.walk.entries().size());
             writePages(tree, progress);
         }
     }

@@ -93,6 +93,12 @@ protected:
         Press(wizard, "cmdViewSample");
     }
 
+    static void expectTitle(QWidget& browser, const QString& title)
+    {
+        EXPECT_TRUE(Await([&] { return browser.windowTitle() == "Web Browser - " + title; }))
+            << browser.windowTitle().toStdString();
+    }
+
     /// Cancels with changes that are not saved.
     void lose(QWidget& wizard)
     {
@@ -161,8 +167,16 @@ TEST_F(WizardTest, FromANewSetupToTheFinishedSiteOfTheSample)
             EXPECT_TRUE(wizard.isVisible());
             hand.answer("The output folder");
             hand.at("frmConfirm", [&](QWidget& confirm) {
-                hand.at("frmWebBrowser", [](QWidget& browser) {
-                    EXPECT_TRUE(Await([&browser] { return browser.windowTitle().size() > 15; }));
+                hand.at("frmWebBrowser", [&site](QWidget& browser) {
+                    expectTitle(browser, "Family tree and photo album");
+                    for (const auto& [pages, title] : {std::pair("DescTree_*", "Descendants of Barnaby Whiskerton"),
+                                                       {"AncTree_*", "Ancestors of Barnaby Whiskerton"},
+                                                       {"Outline_*", "Descendants of Barnaby Whiskerton"},
+                                                       {"CTree_*", "Collapsible family tree"}}) {
+                        const QString page = site + '/' + QDir(site).entryList({pages}).value(0);
+                        Find<QWidget>(browser, "webWindow").setProperty("url", QUrl::fromLocalFile(page));
+                        expectTitle(browser, title);
+                    }
                     Press(browser, "cmdClose");
                 });
                 Press(confirm, "cmdBrowser");
@@ -177,10 +191,7 @@ TEST_F(WizardTest, FromANewSetupToTheFinishedSiteOfTheSample)
     EXPECT_TRUE(ReadWholeFile(site + "/main.html").contains("Nine Lives"));
     EXPECT_TRUE(ReadWholeFile(site + "/main.html").contains("About <B>cats</B>."));
     EXPECT_TRUE(ReadWholeFile(site + "/bottom.html").contains("../cats.html"));
-    for (const char* pages :
-         {"Outline_*.html", "DescTree_*.html", "CTree_*.html", "AncTree_*.html", "PersPage_*.html"}) {
-        EXPECT_FALSE(QDir(site).entryList({pages}).isEmpty()) << pages;
-    }
+    EXPECT_FALSE(QDir(site).entryList({"PersPage_*.html"}).isEmpty());
     EXPECT_FALSE(world.settings.document("newsetups.json").isEmpty());
     EXPECT_EQ(stored("SELECT count(DISTINCT GenDisplayType) FROM TreeHeads WHERE SetupName = 'All cats'"),
               QStringList(QString::number(TreeDisplays().size())));
@@ -380,10 +391,29 @@ TEST_F(WizardTest, PagesOfANewSetupComeInTheirOrderAndFinishGoesToWhatIsMissing)
             hand.answer("Building Web Pages");
             Press(wizard, "cmdFinish");
             EXPECT_TRUE(wizard.isVisible());
-            Type(wizard, "txtWebPageFolder", world.path("other"));
+            Type(wizard, "txtWebPageFolder", world.write("letter.txt", "Dear Ann") + "/site");
             hand.answer("The output folder");
+            hand.answer("Cannot create folder");
+            Press(wizard, "cmdFinish");
+            EXPECT_TRUE(wizard.isVisible());
+            QDir(world.path("")).mkpath("other");
+            const QString old = world.write("other/old.html", "old");
+            Type(wizard, "txtWebPageFolder", world.path("other"));
+            hand.answer("There are already some files", QMessageBox::Cancel);
+            Press(wizard, "cmdFinish");
+            goTo(wizard, "Display options");
+            Press(wizard, "cmdAdd");
+            chooseHead(wizard, "Root, Ida");
+            Press(wizard, "cmdApply");
+            hand.answer("There are already some files");
+            hand.answer("Family-less Ancestor", QMessageBox::Cancel);
+            Press(wizard, "cmdFinish");
+            EXPECT_TRUE(wizard.isVisible() && QFile::exists(old));
+            hand.answer("There are already some files");
+            hand.answer("Family-less Ancestor");
             world.settings.setValue(setting::exportWizard, setting::confirmScreen, "0");
             Press(wizard, "cmdFinish");
+            EXPECT_FALSE(QFile::exists(old));
         },
         WizardMode::New);
     EXPECT_TRUE(QFile::exists(world.path("other/index.html")));

@@ -14,6 +14,8 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
+#include <array>
+
 namespace stemwright
 {
 
@@ -27,19 +29,16 @@ constexpr int textWidth = 500;
 class frmConfirm : public QDialog
 {
 public:
-    frmConfirm(const QString& index, Environment& environment, QWidget* parent)
-        : QDialog(parent), m_environment(environment)
+    frmConfirm(Environment& environment, QWidget* parent) : QDialog(parent), m_environment(environment)
     {
-        const Message message = webmessages::WebPagesCreated(QFileInfo(index).path());
         setObjectName(QStringLiteral("frmConfirm"));
-        setWindowTitle(message.title);
         auto* sign = new QLabel;
         sign->setObjectName(QStringLiteral("imgSign"));
         sign->setPixmap(QIcon(environment.application.file(QStringLiteral("icons/stemwright.svg"))).pixmap(signSize));
         auto* texts = new QVBoxLayout;
         int number = 0;
-        for (const QString& text : webmessages::WebPagesCreatedTexts(QFileInfo(index).path())) {
-            QLabel* label = MakeLabel("", text);
+        for (QLabel*& label : lblConfirm) {
+            label = MakeLabel("");
             label->setObjectName(QStringLiteral("lblConfirm%1").arg(++number));
             label->setWordWrap(true);
             label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -51,8 +50,9 @@ public:
         QPushButton* browser = MakeButton("cmdBrowser", QStringLiteral("&View My Web Pages"));
         QPushButton* ok = MakeButton("cmdOK", QStringLiteral("&OK"));
         browser->setDefault(true);
-        connect(browser, &QPushButton::clicked, this,
-                [this, index] { ShowWebBrowser(LocalSite::published(index), m_environment, this); });
+        connect(browser, &QPushButton::clicked, this, [this] {
+            ShowWebBrowser(LocalSite::published(m_folder + QStringLiteral("/index.html")), m_environment, this);
+        });
         connect(ok, &QPushButton::clicked, this, &frmConfirm::accept);
         QHBoxLayout* buttons = MakeRow({browser, ok});
         buttons->insertStretch(0);
@@ -67,6 +67,17 @@ public:
         layout->addLayout(buttons, 2, 0, 1, 2);
     }
 
+    /// Tells it the site's folder, before it is shown.
+    void SetFormName(const QString& folder)
+    {
+        m_folder = folder;
+        setWindowTitle(webmessages::WebPagesCreated(folder).title);
+        const auto texts = webmessages::WebPagesCreatedTexts(folder);
+        for (std::size_t line = 0; line < texts.size(); ++line) {
+            lblConfirm[line]->setText(texts[line]);
+        }
+    }
+
     /// However it is closed.
     void done(int result) override
     {
@@ -78,6 +89,8 @@ public:
 
 private:
     Environment& m_environment;
+    QString m_folder;
+    std::array<QLabel*, 3> lblConfirm{};
     QCheckBox* chkDontShow = new QCheckBox(QStringLiteral("&Don't show this dialog in the future."));
 };
 
@@ -86,7 +99,9 @@ private:
 void ConfirmWebPages(const QString& index, Environment& environment, QWidget* parent)
 {
     if (WantsConfirmation(environment.settings)) {
-        frmConfirm(index, environment, parent).exec();
+        frmConfirm confirm(environment, parent);
+        confirm.SetFormName(QFileInfo(index).path());
+        confirm.exec();
     }
 }
 

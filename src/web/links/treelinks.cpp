@@ -50,14 +50,16 @@ PublishedTree MakePublishedTree(const SiteRun& run, const TreeDefinition& defini
 {
     const TreeDisplay display = DisplayOf(definition);
     const TreePosition head = walk.entries().front().person;
-    PublishedTree tree{
-        .definition = definition,
-        .display = display,
-        .headName = run.names.isWithheldFrom(head) ? run.names.indexName(head) : TidyHeadName(definition),
-        .pageNameStart = std::string(FilePrefix(display)) + '_' + std::to_string(definition.number) + '_',
-        .icon = TreeIconName(definition.icon, run.application).toStdString(),
-        .linkEnd = {},
-        .walk = std::move(walk)};
+    const std::string stored = TidyHeadName(definition);
+    const bool mayTellStored = !run.names.isWithheldFrom(head);
+    PublishedTree tree{.definition = definition,
+                       .display = display,
+                       .headName = mayTellStored && !stored.empty() ? stored : run.names.indexName(head),
+                       .pageNameStart =
+                           std::string(FilePrefix(display)) + '_' + std::to_string(definition.number) + '_',
+                       .icon = TreeIconName(definition.icon, run.application).toStdString(),
+                       .linkEnd = {},
+                       .walk = std::move(walk)};
     tree.linkEnd = LinkEnd(tree);
     return tree;
 }

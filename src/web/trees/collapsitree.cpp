@@ -35,7 +35,7 @@ public:
         const std::vector<TreeEntry>& entries = m_tree.walk.entries();
         for (EntryNumber number = 0; number < entries.size(); ++number) {
             const TreeEntry& entry = entries[number];
-            progress.report([&] { return EntryName(m_run, entry); });
+            progress.report([] { return std::string_view(); });
             // A duplicate is one line without a block that could hold its spouses; they stand at the main entry.
             if (entry.kind == EntryKind::Spouse && entryAt(entry.reachedFrom).isDuplicate) {
                 continue;
