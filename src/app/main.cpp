@@ -11,6 +11,7 @@
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QLoggingCategory>
+#include <QtCore/QTimer>
 #include <QtGui/QIcon>
 
 namespace stemwright
@@ -51,7 +52,8 @@ int Run(Application& program)
         window.show();
         splash->raise();
         splash->finish();
-        window.start(file);
+        // Within the event loop, where what fails is told and the window stays.
+        QTimer::singleShot(0, &window, [&window, &file] { window.start(file); });
         return QApplication::exec();
     } catch (const std::exception& exception) {
         talk.tell(appmessages::Failed(ReasonText(exception)));

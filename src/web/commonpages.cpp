@@ -70,13 +70,13 @@ std::string WriteEmblem(const SiteRun& run, Connection& connection)
     const bool usable = !type.isEmpty() && std::all_of(type.begin(), type.end(), [](QChar character) {
         return character.unicode() < 0x80 && character.isLetterOrNumber();
     });
-    Statement statement = connection.prepare(
-        QStringLiteral("SELECT EmblemPicture IS NULL OR length(EmblemPicture) = 0 FROM WebSiteInfo WHERE rowid = ?1"));
-    if (!usable || !statement.bind(1, run.setup.row).step() || statement.integer(0) != 0) {
+    Statement statement = connection.prepare(QStringLiteral("SELECT EmblemPicture FROM WebSiteInfo WHERE rowid = ?1 AND"
+                                                            " length(EmblemPicture) > 0"));
+    if (!usable || !statement.bind(1, run.setup.row).step()) {
         return "graphics/spacer.gif";
     }
     const std::string name = "emblem." + type.toStdString();
-    CopyPicture(run, connection, {QStringLiteral("WebSiteInfo"), QStringLiteral("EmblemPicture"), run.setup.row}, name);
+    WriteWholeFile(run.file(name), PublishableBytes(run, statement.rawBytes(0)));
     return name;
 }
 
@@ -95,7 +95,6 @@ void WriteCommonPages(const SiteRun& run, Connection& connection)
         return run.application.file(QStringLiteral("html/") + QLatin1StringView(name));
     };
     const QString style = StyleFolder(run.setup.pageStyle, run.application) + u'/';
-    WriteWholeFile(run.file("index.html"), ReadWholeFile(style + QStringLiteral("tree.html")));
     WriteWholeFile(run.file("left.html"), ReadWholeFile(style + QStringLiteral("left.html")));
     for (const char* name : {"topleft.html", "picpage.js", "sniffer.js"}) {
         WriteWholeFile(run.file(name), ReadWholeFile(html(name)));
@@ -114,6 +113,8 @@ void WriteCommonPages(const SiteRun& run, Connection& connection)
           {"$SiteTitle", AuthorHtml(run.setup.siteTitle)},
           {"$EmblemFilename", WriteEmblem(run, connection)},
           {"$StartYourTour", StartYourTour(run, trees)}});
+    // Last, since a site that has it is taken for a whole one.
+    WriteWholeFile(run.file("index.html"), ReadWholeFile(style + QStringLiteral("tree.html")));
 }
 
 } // namespace stemwright

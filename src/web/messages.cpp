@@ -246,6 +246,15 @@ Message FactsLeftOut(const QStringList& persons)
             Icon::Warning};
 }
 
+Message ProtectedHeads(const QStringList& persons)
+{
+    return {QStringLiteral("Protected tree heads"),
+            QStringLiteral("The head of a tree is always shown, also on a site that hides privacy-protected persons."
+                           "\nTo leave somebody out, choose another head for the tree. Protected heads: %1")
+                .arg(FirstOf(persons)),
+            Icon::Warning};
+}
+
 Message ProposeTreeHead(const QString& name, int id, std::size_t descendants)
 {
     return {

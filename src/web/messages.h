@@ -51,8 +51,9 @@ QString NoSuchTreeHead(const QString& headName, int id);
 // The pictures, by their numbers.
 Message TextsLeftOut(const std::vector<int>& pictures);
 
-/// By the names of the persons.
+// Persons, by their names.
 Message FactsLeftOut(const QStringList& persons);
+Message ProtectedHeads(const QStringList& persons);
 
 // The choice of a head.
 Message ProposeTreeHead(const QString& name, int id, std::size_t descendants);

@@ -12,6 +12,7 @@
 #include "web/pictures/albumpages.h"
 #include "web/run/hiddenfacts.h"
 #include "web/setup/setupchecks.h"
+#include "web/sitereport.h"
 #include "web/standardfiles.h"
 #include "web/treelist.h"
 #include "web/trees/chartpages.h"
@@ -22,7 +23,6 @@
 #include <QtCore/QFileInfo>
 
 #include <future>
-#include <set>
 
 namespace stemwright
 {
@@ -139,12 +139,11 @@ private:
         for (const TreeDefinition& definition : m_setup->trees) {
             addTree(definition);
         }
-        tellMissingFamilies();
+        TellMissingFamilies(*m_run, m_environment.talk);
+        TellProtectedHeads(*m_run, m_environment.talk);
         m_run->hiddenNames = HiddenNames(*m_run);
         m_run->pictures = PublishedPictures(std::move(m_album), *m_run);
-        if (const std::vector<TreePosition> persons = WithholdFacts(*m_texts, *m_run); !persons.empty()) {
-            tellFactsLeftOut(persons);
-        }
+        TellFactsLeftOut(WithholdFacts(*m_texts, *m_run), *m_run, m_environment.talk);
     }
 
     /// Standard files are copied and work tables filled by a second thread while the first writes pages: both only read
@@ -216,34 +215,6 @@ private:
         const TreePosition family = m_tree.parentFamily(individual);
         return family != nowhere &&
                (!m_tree.hasRecord(family) || m_tree.husband(family) != nowhere || m_tree.wife(family) != nowhere);
-    }
-
-    void tellFactsLeftOut(const std::vector<TreePosition>& persons)
-    {
-        QStringList names;
-        for (const TreePosition person : persons) {
-            names << QStringLiteral("%1 (%2)")
-                         .arg(QString::fromStdString(m_names->displayName(person)))
-                         .arg(m_tree.individualId(person));
-        }
-        m_environment.talk.tell(webmessages::FactsLeftOut(names));
-    }
-
-    /// Tells of each family once, in whatever trees it is missed.
-    void tellMissingFamilies()
-    {
-        constexpr std::size_t mostMessages = 5;
-        std::set<TreePosition> missing;
-        for (const PublishedTree& tree : m_run->trees) {
-            for (const TreePosition family : tree.walk.missingFamilies()) {
-                if (missing.insert(family).second && missing.size() <= mostMessages) {
-                    m_environment.talk.tell(webmessages::MissingFamilyRecord(m_tree.familyId(family)));
-                }
-            }
-        }
-        if (missing.size() > mostMessages) {
-            m_environment.talk.tell(webmessages::MoreMissingFamilyRecords(missing.size() - mostMessages));
-        }
     }
 
     void buildIndex()

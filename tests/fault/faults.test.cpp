@@ -5,6 +5,7 @@
 #include "fault/fingerprint.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QDirIterator>
 #include <QtCore/QFile>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryFile>
@@ -156,14 +157,14 @@ TEST_F(FaultsTest, AFailingDiskLeavesTheFileOfAnEarlierRelease)
 
 TEST_F(FaultsTest, AFullDiskEndsThePublication)
 {
-    // The graphics come first, then the pages of the trees.
-    qint64 graphics = 0;
-    for (const QFileInfo& image : QDir(site + "/graphics").entryInfoList(QDir::Files)) {
-        graphics += image.size();
+    qint64 whole = 0;
+    for (QDirIterator pages(site, QDir::Files, QDirIterator::Subdirectories); pages.hasNext();) {
+        whole += pages.nextFileInfo().size();
     }
-    for (const qint64 bytes : {qint64(0), graphics / 2, graphics + 500, graphics + 2'500, graphics + 8'000}) {
+    for (const qint64 bytes : {qint64(0), whole / 4, whole / 2, whole - 8'000, whole - 2'500, whole - 50}) {
         SCOPED_TRACE(bytes);
         expectCleanFailure(runOnFaultyDisk("full", site, bytes, publish), "No space left on device");
+        EXPECT_FALSE(QFile::exists(site + "/index.html")) << "nobody takes it for a finished site";
     }
     EXPECT_EQ(world.run(publish).status, 0);
 }

@@ -112,6 +112,19 @@ TEST(SiteBuild, DescendantsOfHiddenPersonsAreNotNamedByRelatives)
     }
 }
 
+TEST(SiteBuild, WarnsOfHeadsThatAreTakenForLiving)
+{
+    SiteWorld world;
+    AddHarts(world);
+    world.build.run("UPDATE Indi SET BIRT_Date = '1990', DEAT_Date = NULL, DEAT_Place = NULL WHERE Id = 1");
+    world.head(1, "Hart, Sir Thomas", "Descendant Tree").head(12, "Abaj", "CollapsiTree");
+    ASSERT_TRUE(world.publish());
+    world.setup("HideLiving = 1");
+    world.talk.expect("There are already some files").expect("Protected tree heads");
+    ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
+    EXPECT_THAT(world.talk.shown().back().text.toStdString(), testing::EndsWith("heads: Sir Thomas Hart (1)"));
+}
+
 TEST(SiteBuild, FactsThatNameHiddenPersonsAreLeftOut)
 {
     for (const bool hides : {true, false}) {

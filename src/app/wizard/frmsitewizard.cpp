@@ -14,7 +14,6 @@
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QListWidget>
@@ -36,10 +35,8 @@ class frmSiteWizard : public QDialog
 public:
     frmSiteWizard(FamilyFile& file, Environment& environment, const QString& setupName, WizardMode mode,
                   const PersonPicker& picker, QWidget* parent)
-        : QDialog(parent),
-          m_editing(file.connection(), environment, setupName), m_context{file,      environment,
-                                                                          picker,    setupName,
-                                                                          m_editing, [this] { setButtons(); }}
+        : QDialog(parent), m_editing(file.connection(), environment, setupName),
+          m_context{file, environment, picker, setupName, m_editing, m_isModel, [this] { setButtons(); }}
     {
         setObjectName(QStringLiteral("frmSiteWizard"));
         setWindowTitle(wizardtexts::Caption(setupName));
@@ -216,7 +213,7 @@ private:
             activateWindow();
             return;
         }
-        if (findChild<QCheckBox*>(QStringLiteral("chkSaveDefault"))->isChecked()) {
+        if (m_isModel) {
             SaveAsModel(m_context.file.connection(), m_context.setupName, m_context.environment);
         }
         ConfirmWebPages(*index, m_context.environment, this);
@@ -224,6 +221,7 @@ private:
     }
 
     SetupEditing m_editing;
+    bool m_isModel = false;
     WizardContext m_context;
     std::vector<WizardForm*> m_pages;
     int m_current = 0;

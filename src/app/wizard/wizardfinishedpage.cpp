@@ -35,6 +35,7 @@ public:
         auto* chkSaveDefault = new QCheckBox(QStringLiteral(" Save c&urrent settings as default"));
         chkSaveDefault->setObjectName(QStringLiteral("chkSaveDefault"));
         chkSaveDefault->setToolTip(QStringLiteral("New setups will begin with the settings of this one"));
+        connect(chkSaveDefault, &QCheckBox::toggled, this, [this](bool checked) { this->context().isModel = checked; });
         body().addStretch();
         body().addWidget(chkSaveDefault);
     }

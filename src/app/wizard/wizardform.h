@@ -28,6 +28,8 @@ struct WizardContext {
     const PersonPicker& picker;
     QString setupName;
     SetupEditing& editing;
+    /// Whether new setups are to be like this one, once it is built; the last page asks.
+    bool& isModel;
     /// Called after each change.
     std::function<void()> changed;
 };

@@ -15,7 +15,7 @@ WizardForm* MakeFirstPagePage(const WizardContext& context);
 WizardForm* MakeGeneralPage(const WizardContext& context);
 WizardForm* MakeDisplayPage(const WizardContext& context);
 
-/// The last page; its `chkSaveDefault` says whether new setups are to be like this one.
+/// The last page; its `chkSaveDefault` sets `isModel`.
 WizardForm* MakeFinishedPage(const WizardContext& context);
 
 } // namespace stemwright

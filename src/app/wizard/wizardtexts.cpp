@@ -110,7 +110,7 @@ QString LivingAreHidden(const Setup& setup)
 {
     return QStringLiteral(
                "Privacy-protected persons, those younger than %1 years who are not known to be deceased, are "
-               "hidden, and so are their children.")
+               "hidden, and so are their children. Only the head of a tree is always shown.")
         .arg(setup.maxPrivacyAge);
 }
 

@@ -3,6 +3,7 @@
 #include "web/pictures/picturefiles.h"
 
 #include "album/imagemetadata.h"
+#include "album/modblob.h"
 #include "base/error.h"
 #include "base/files.h"
 #include "dates/encodeddate.h"
@@ -15,7 +16,7 @@ namespace stemwright
 namespace
 {
 
-/// Up to this size, in bytes, a picture is copied in one piece.
+/// Up to this size, in bytes, a picture is copied in one piece, if it is copied as it is.
 constexpr int largestPiece = 1 << 20;
 
 /// A file name's end, "jpg", from a type that may hold anything.
@@ -42,11 +43,6 @@ bool HidesPersons(const SiteRun& run)
     return run.settings.protectedPersons == ProtectedPersons::Hidden;
 }
 
-QByteArray Published(const SiteRun& run, const QByteArray& picture)
-{
-    return HidesPersons(run) ? WithoutMetadata(picture) : picture;
-}
-
 } // namespace
 
 PictureFilesWriter::PictureFilesWriter(const SiteRun& run, Connection& connection)
@@ -54,7 +50,7 @@ PictureFilesWriter::PictureFilesWriter(const SiteRun& run, Connection& connectio
       m_select(connection.prepare(
           QStringLiteral("SELECT PicType, trim(PicDescr), ModificationDate, NamesLeft, Rectangle, PicWidth, PicHeight,"
                          " Thumb, CASE WHEN length(Picture) <= %1 THEN Picture END FROM AlbumTOC WHERE PicId = ?1")
-              .arg(largestPiece)))
+              .arg(HidesPersons(run) ? std::numeric_limits<int>::max() : largestPiece)))
 {
 }
 
@@ -76,22 +72,18 @@ PictureFiles PictureFilesWriter::write(const PublishedPicture& picture)
         WriteWholeFile(m_run.file(files.thumbnail), thumbnail);
     }
     if (m_select.isNull(8)) {
-        CopyPicture(m_run, m_connection, {QStringLiteral("AlbumTOC"), QStringLiteral("Picture"), picture.id},
-                    files.picture);
+        SaveFieldToFile(m_connection, {QStringLiteral("AlbumTOC"), QStringLiteral("Picture"), picture.id},
+                        m_run.file(files.picture));
     } else {
-        WriteWholeFile(m_run.file(files.picture), Published(m_run, m_select.rawBytes(8)));
+        WriteWholeFile(m_run.file(files.picture), PublishableBytes(m_run, m_select.rawBytes(8)));
     }
     m_select.reset();
     return files;
 }
 
-void CopyPicture(const SiteRun& run, Connection& connection, const BlobField& field, std::string_view name)
+QByteArray PublishableBytes(const SiteRun& run, const QByteArray& picture)
 {
-    const QString file = run.file(name);
-    SaveFieldToFile(connection, field, file);
-    if (HidesPersons(run)) {
-        WriteWholeFile(file, Published(run, ReadWholeFile(file)));
-    }
+    return HidesPersons(run) ? WithoutMetadata(picture) : picture;
 }
 
 } // namespace stemwright

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "album/modblob.h"
 #include "album/picturerecord.h"
 #include "web/run/siterun.h"
 
 /// Copies pictures and thumbnails into the site, and reads with them what only a picture's own page needs. Pictures are
 /// copied byte for byte, but without their metadata if the site hides persons: cameras and other programs write there
-/// who is on a picture, and where it was taken. One query a picture, prepared once; only one picture is in memory.
+/// who is on a picture, and where it was taken. One query a picture, prepared once; only one picture is in memory,
+/// and of a very large one that is copied as it is only a piece.
 /// Throws Error when a file cannot be written; reading fails as the engine fails. Stands on the run and on the album.
 namespace stemwright
 {
@@ -41,7 +41,7 @@ private:
     Statement m_select;
 };
 
-/// Copies any other picture of the family file into the site under this name.
-void CopyPicture(const SiteRun& run, Connection& connection, const BlobField& field, std::string_view name);
+/// The bytes of a picture file as the site may have them: those given, without metadata if the site hides persons.
+QByteArray PublishableBytes(const SiteRun& run, const QByteArray& picture);
 
 } // namespace stemwright
