@@ -151,6 +151,13 @@ QString IsNotWritable(const QString& path)
     return QStringLiteral("Nothing can be written into %1. Please choose another folder.").arg(Native(path));
 }
 
+QString HoldsOtherFiles(const QString& folder, const QString& example)
+{
+    return QStringLiteral("%1 holds files that are no part of a site, %2 for example. They will be deleted when the "
+                          "pages are built. Please choose a folder that holds nothing but the site.")
+        .arg(Native(folder), example);
+}
+
 QString IsRootFolder(const QString& folder)
 {
     return QStringLiteral("%1 is the root of the file system. Please choose a folder that holds nothing but the site.")
@@ -241,6 +248,18 @@ Message FactsLeftOut(const QStringList& persons)
     return {QStringLiteral("Hidden persons in facts"),
             QStringLiteral("Facts of %1 of the published persons seem to name a person who is hidden on this site."
                            "\nThese dates, places or other texts were left out. Persons: %2")
+                .arg(persons.size())
+                .arg(FirstOf(persons)),
+            Icon::Warning};
+}
+
+Message PossiblyLiving(const QStringList& persons)
+{
+    return {QStringLiteral("Possibly living persons"),
+            QStringLiteral("%1 of the published persons may be living. They have neither a date nor a place of death, "
+                           "and dates of birth that do not end in the year, so that their age is not known.\nTo hide "
+                           "them, correct these dates in your genealogy program and import the tree again. Persons: "
+                           "%2")
                 .arg(persons.size())
                 .arg(FirstOf(persons)),
             Icon::Warning};

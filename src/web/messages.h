@@ -35,6 +35,7 @@ QString NoOutputFolder();
 QString IsNotAFullPath(const QString& folder);
 QString IsNotAFolder(const QString& path);
 QString IsNotWritable(const QString& path);
+QString HoldsOtherFiles(const QString& folder, const QString& example);
 QString IsRootFolder(const QString& folder);
 QString HoldsHomeFolder(const QString& folder);
 QString HoldsFamilyFile(const QString& folder);
@@ -53,6 +54,7 @@ Message TextsLeftOut(const std::vector<int>& pictures);
 
 // Persons, by their names.
 Message FactsLeftOut(const QStringList& persons);
+Message PossiblyLiving(const QStringList& persons);
 Message ProtectedHeads(const QStringList& persons);
 
 // The choice of a head.

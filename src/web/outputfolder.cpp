@@ -7,7 +7,9 @@
 #include "web/messages.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QDirIterator>
 #include <QtCore/QFileInfo>
+#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 
@@ -55,6 +57,23 @@ bool HoldsFamilyFiles(const QString& folder)
 {
     const QStringList patterns = {QStringLiteral("*.kvf"), QStringLiteral("*.kvf-*"), QStringLiteral("*.ffb")};
     return !QDir(folder).entryList(patterns, QDir::Files | QDir::Hidden).isEmpty();
+}
+
+/// A file of the folder that no build has written; empty when there is none.
+QString OtherFileIn(const QString& folder)
+{
+    static const QRegularExpression ofSite(QRegularExpression::anchoredPattern(
+        QStringLiteral("(index|left|topleft|topright|bottom|main|TreeList|NameIndex|ListOfPics)\\.html|"
+                       "(picpage|sniffer)\\.js|emblem\\.\\w+|(Outline|CTree|DescTree|AncTree)_\\d+_-?\\d+\\.html|"
+                       "(PersPage_|PicPage|PicList)-?\\d+\\.html|Pic-?\\d+\\.\\w+|Thumb_-?\\d+\\.bmp|"
+                       "Thumbs_(All|-?\\d+)_\\d+\\.html")));
+    for (QDirIterator files(folder, QDir::Files); files.hasNext();) {
+        const QString name = files.nextFileInfo().fileName();
+        if (!ofSite.match(name).hasMatch()) {
+            return name;
+        }
+    }
+    return {};
 }
 
 bool Create(const QString& folder, Talk& talk)
@@ -116,8 +135,11 @@ std::optional<QString> WarningOfOutputFolder(const QString& folder, const Protec
     while (!place.exists() && !place.isRoot()) {
         place.setFile(place.absolutePath());
     }
-    return place.isDir() && place.isWritable() ? std::nullopt
-                                               : std::optional(webmessages::IsNotWritable(place.absoluteFilePath()));
+    if (!place.isDir() || !place.isWritable()) {
+        return webmessages::IsNotWritable(place.absoluteFilePath());
+    }
+    const QString other = OtherFileIn(folder);
+    return other.isEmpty() ? std::nullopt : std::optional(webmessages::HoldsOtherFiles(folder, other));
 }
 
 std::optional<OutputFolder> PrepareOutputFolder(const QString& folder, const ProtectedPlaces& places, Talk& talk)

@@ -28,8 +28,9 @@ struct ProtectedPlaces {
 /// Why no site may be written into a folder, as a whole sentence; no value when one may.
 std::optional<QString> WhyNoOutputFolder(const QString& folder, const ProtectedPlaces& places);
 
-/// What a user should know of a folder before pages are built: why no site may be written there, or that the system
-/// does not let him write there; a whole sentence. No value when nothing is known against it.
+/// What a user should know of a folder before pages are built, in whole sentences: why no site may be written there,
+/// that the system does not let him write there, or that other files than those of a site would be deleted there. No
+/// value when nothing is known against it.
 std::optional<QString> WarningOfOutputFolder(const QString& folder, const ProtectedPlaces& places);
 
 /// A folder that the user agreed to.

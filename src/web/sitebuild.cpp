@@ -141,6 +141,7 @@ private:
         }
         TellMissingFamilies(*m_run, m_environment.talk);
         TellProtectedHeads(*m_run, m_environment.talk);
+        TellPossiblyLiving(*m_run, m_environment.talk);
         m_run->hiddenNames = HiddenNames(*m_run);
         m_run->pictures = PublishedPictures(std::move(m_album), *m_run);
         TellFactsLeftOut(WithholdFacts(*m_texts, *m_run), *m_run, m_environment.talk);

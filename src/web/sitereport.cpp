@@ -54,6 +54,19 @@ void TellProtectedHeads(const SiteRun& run, Talk& talk)
     }
 }
 
+void TellPossiblyLiving(const SiteRun& run, Talk& talk)
+{
+    QStringList persons;
+    for (TreePosition person = 0; person < run.tree.individuals(); ++person) {
+        if (run.privacy.isDoubtful(person) && run.isOnSite(person)) {
+            persons << NameAndNumber(run, person);
+        }
+    }
+    if (!persons.isEmpty()) {
+        talk.tell(webmessages::PossiblyLiving(persons));
+    }
+}
+
 void TellFactsLeftOut(const std::vector<TreePosition>& persons, const SiteRun& run, Talk& talk)
 {
     QStringList names;

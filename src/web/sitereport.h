@@ -16,6 +16,9 @@ void TellMissingFamilies(const SiteRun& run, Talk& talk);
 /// Heads of trees that are protected, on a site that hides protected persons: a head is always shown.
 void TellProtectedHeads(const SiteRun& run, Talk& talk);
 
+/// Persons on such a site of whom the privacy test cannot tell whether they are living.
+void TellPossiblyLiving(const SiteRun& run, Talk& talk);
+
 /// Persons of whom facts are left out (WithholdFacts).
 void TellFactsLeftOut(const std::vector<TreePosition>& persons, const SiteRun& run, Talk& talk);
 

@@ -117,4 +117,19 @@ TEST_F(OutputFolderTest, DeletesItsFilesOnlyAndOnlyAfterAsking)
     }
 }
 
+TEST_F(OutputFolderTest, WarnsOfFilesThatAreNoPartOfASite)
+{
+    const auto warning = [this](const char* folder) {
+        return WarningOfOutputFolder(path(folder), {path("files/Family.kvf"), path("home"), path("app"), path("x")});
+    };
+    for (const char* name : {"index.html", "Outline_1_12.html", "PicPage5.html", "Pic5.JPG", "Thumbs_All_1.html",
+                             "emblem.gif", "sniffer.js"}) {
+        world.write(QString("out/") + name, "of a site");
+    }
+    EXPECT_EQ(warning("out"), std::nullopt);
+    EXPECT_EQ(warning("out/new"), std::nullopt);
+    world.write("out/My Pic5.JPG", "of mine");
+    EXPECT_TRUE(warning("out").value_or("").contains("no part of a site, My Pic5.JPG for example"));
+}
+
 } // namespace stemwright::test

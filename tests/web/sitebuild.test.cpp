@@ -112,17 +112,28 @@ TEST(SiteBuild, DescendantsOfHiddenPersonsAreNotNamedByRelatives)
     }
 }
 
-TEST(SiteBuild, WarnsOfHeadsThatAreTakenForLiving)
+TEST(SiteBuild, WarnsOfPersonsWhoMayBeLivingAndAreShown)
 {
     SiteWorld world;
     AddHarts(world);
     world.build.run("UPDATE Indi SET BIRT_Date = '1990', DEAT_Date = NULL, DEAT_Place = NULL WHERE Id = 1");
+    int id = 21;
+    for (const char* birth : {"1990/91", "1990-05-12", "INT 1990 (approx)", "12345 A", "1850?", "(1990)"}) {
+        world.build.person(id, birth, "Doubt", {{"BIRT_Date", birth}}).family(id, id, 0, {});
+        world.head(id++, birth, "Descendant Tree");
+    }
+    world.build.run("UPDATE Indi SET DEAT_Place = 'at sea' WHERE Id = 26");
     world.head(1, "Hart, Sir Thomas", "Descendant Tree").head(12, "Abaj", "CollapsiTree");
     ASSERT_TRUE(world.publish());
     world.setup("HideLiving = 1");
-    world.talk.expect("There are already some files").expect("Protected tree heads");
+    world.talk.expect("There are already some files").expect("Protected tree heads").expect("Possibly living persons");
     ASSERT_TRUE(BuildWebPages(world.file, {"Default", world.site()}, world.environment));
-    EXPECT_THAT(world.talk.shown().back().text.toStdString(), testing::EndsWith("heads: Sir Thomas Hart (1)"));
+    const auto told = [&world](std::size_t fromEnd) {
+        return world.talk.shown()[world.talk.shown().size() - fromEnd].text.toStdString();
+    };
+    EXPECT_THAT(told(2), testing::EndsWith("heads: Sir Thomas Hart (1)"));
+    EXPECT_THAT(told(1),
+                testing::EndsWith("Persons: 1990/91 Doubt (21), 1990-05-12 Doubt (22), INT 1990 (approx) Doubt (23)"));
 }
 
 TEST(SiteBuild, FactsThatNameHiddenPersonsAreLeftOut)

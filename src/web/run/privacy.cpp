@@ -17,6 +17,39 @@ bool IsPrivacyProtected(std::optional<std::string_view> birthDate, std::optional
     return birthYear && currentYear <= *birthYear + maxPrivacyAge;
 }
 
+namespace
+{
+
+bool KnownDead(const SiteTexts& texts, TreePosition individual)
+{
+    return texts.individual(individual, individualcolumn::deathDate) ||
+           texts.individual(individual, individualcolumn::deathPlace);
+}
+
+std::string_view BirthOf(const SiteTexts& texts, TreePosition individual)
+{
+    return texts.individual(individual, individualcolumn::birthDate).value_or("");
+}
+
+/// Whether four digits somewhere in a date text, and no more, are this year or a later one.
+bool HoldsYearSince(std::string_view date, int firstYear)
+{
+    constexpr std::string_view digits = "0123456789";
+    constexpr std::size_t digitsOfYear = 4;
+    for (std::size_t at = date.find_first_of(digits); at < date.size(); at = date.find_first_of(digits, at)) {
+        const std::size_t end = std::min(date.find_first_not_of(digits, at), date.size());
+        const std::optional<int> year =
+            end - at == digitsOfYear ? YearAtEnd(date.substr(at, digitsOfYear)) : std::nullopt;
+        if (year && *year >= firstYear) {
+            return true;
+        }
+        at = end;
+    }
+    return false;
+}
+
+} // namespace
+
 Privacy::Privacy(const FamilyTree& tree, const SiteTexts& texts, ProtectedPersons handling, int maxPrivacyAge,
                  int currentYear)
     : m_hides(handling == ProtectedPersons::Hidden), m_protected(tree.individuals(), false)
@@ -31,14 +64,21 @@ Privacy::Privacy(const FamilyTree& tree, const SiteTexts& texts, ProtectedPerson
         return;
     }
     hideDescendants(tree);
+    leaveOut(tree, texts);
+    m_doubtful.assign(tree.individuals(), false);
+    for (TreePosition individual = 0; individual < tree.individuals(); ++individual) {
+        m_doubtful[individual] = !m_protected[individual] && !KnownDead(texts, individual) &&
+                                 HoldsYearSince(BirthOf(texts, individual), currentYear - maxPrivacyAge);
+    }
+}
+
+void Privacy::leaveOut(const FamilyTree& tree, const SiteTexts& texts)
+{
     m_leftOut = m_protected;
     for (TreePosition individual = 0; individual < tree.individuals(); ++individual) {
         if (m_hiddenBranch[individual] && !m_protected[individual]) {
-            const auto has = [&](std::size_t column) { return texts.individual(individual, column).has_value(); };
-            const auto birth = texts.individual(individual, individualcolumn::birthDate).value_or("");
             // A year of birth that does not protect is one from long ago.
-            m_leftOut[individual] =
-                !has(individualcolumn::deathDate) && !has(individualcolumn::deathPlace) && !YearAtEnd(birth);
+            m_leftOut[individual] = !KnownDead(texts, individual) && !YearAtEnd(BirthOf(texts, individual));
         }
     }
 }

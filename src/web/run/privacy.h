@@ -33,14 +33,19 @@ public:
     /// or any descendant of one.
     bool isHiddenBranch(TreePosition individual) const { return m_hides && m_hiddenBranch[individual]; }
 
+    /// Whether the person is not protected only because the birth date does not end in its year, as in "1990/91".
+    bool isDoubtful(TreePosition individual) const { return m_hides && m_doubtful[individual]; }
+
 private:
     void hideDescendants(const FamilyTree& tree);
+    void leaveOut(const FamilyTree& tree, const SiteTexts& texts);
 
     bool m_hides;
     std::vector<bool> m_protected;
     /// Known only where protected persons are hidden.
     std::vector<bool> m_hiddenBranch;
     std::vector<bool> m_leftOut;
+    std::vector<bool> m_doubtful;
 };
 
 } // namespace stemwright
