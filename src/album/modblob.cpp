@@ -72,8 +72,7 @@ bool IsLong(ColumnType type)
 /// Throws Error when the row is not there.
 void RequireRow(Connection& connection, const BlobField& field)
 {
-    Statement statement =
-        connection.prepare(QStringLiteral("SELECT 1 FROM \"%1\" WHERE rowid = ?1").arg(field.table));
+    Statement statement = connection.prepare(QStringLiteral("SELECT 1 FROM \"%1\" WHERE rowid = ?1").arg(field.table));
     if (!statement.bind(1, field.row).step()) {
         throw Error(QStringLiteral("Table %1 has no row %2.").arg(field.table).arg(field.row));
     }
@@ -83,8 +82,9 @@ void RequireRow(Connection& connection, const BlobField& field)
 bool HoldsValue(Connection& connection, const BlobField& field)
 {
     // The engine finds the type of a long value without reading the value.
-    Statement statement = connection.prepare(
-        QStringLiteral("SELECT 1 FROM \"%1\" WHERE rowid = ?1 AND typeof(\"%2\") <> 'null'").arg(field.table, field.column));
+    Statement statement =
+        connection.prepare(QStringLiteral("SELECT 1 FROM \"%1\" WHERE rowid = ?1 AND typeof(\"%2\") <> 'null'")
+                               .arg(field.table, field.column));
     return statement.bind(1, field.row).step();
 }
 

@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "cli/cliworld.h"
 #include "fault/fingerprint.h"
+#include "support/testworld.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
@@ -165,7 +166,7 @@ TEST_F(FaultsTest, OfAPictureThatCannotBeReadToItsEndNothingMovesIn)
     EXPECT_TRUE((outcome.output + outcome.errors).contains("big121.jpg")) << outcome;
     Connection connection(path, OpenMode::ReadWrite);
     EXPECT_EQ(Rows(connection, "SELECT PicFilename, Picture, PicType FROM AlbumTOC WHERE PicFilename LIKE 'big121%'"),
-              QStringList{"-|-|-"});
+              QStringList{"big121.jpg|-|-"});
 }
 
 TEST_F(FaultsTest, AFullDiskEndsThePublication)

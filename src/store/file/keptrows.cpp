@@ -35,9 +35,9 @@ void KeptRows::putBack(Connection& connection) const
         for (int column = 1; column <= table.columns.size(); ++column) {
             places << QStringLiteral("?%1").arg(column);
         }
-        Statement insert = connection.prepare(
-            QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                .arg(QuotedName(table.name), table.columns.join(u','), places.join(u',')));
+        Statement insert =
+            connection.prepare(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                                   .arg(QuotedName(table.name), table.columns.join(u','), places.join(u',')));
         for (const std::vector<EngineValue>& row : table.rows) {
             int parameter = 0;
             for (const EngineValue& value : row) {

@@ -146,8 +146,7 @@ void ItemSelection::save()
 void WriteSelectedItems(Connection& connection, const QString& setupName, const std::vector<SelectedItem>& items)
 {
     Transaction transaction(connection);
-    Statement erase =
-        connection.prepare(QStringLiteral("DELETE FROM SelectedItems WHERE %1").arg(RowsOfSetup(1)));
+    Statement erase = connection.prepare(QStringLiteral("DELETE FROM SelectedItems WHERE %1").arg(RowsOfSetup(1)));
     erase.bind(1, setupName).run();
     Statement statement =
         connection.prepare(QStringLiteral("INSERT INTO SelectedItems (SetupName, ItemValue) VALUES (?1, ?2)"));

@@ -50,9 +50,8 @@ std::vector<TreeDefinition> LoadTreeDefinitions(Connection& connection, const QS
 
 std::vector<SelectedItem> LoadSelectedItems(Connection& connection, const QString& setupName)
 {
-    Statement statement =
-        connection.prepare(
-            QStringLiteral("SELECT ItemValue FROM SelectedItems WHERE %1 ORDER BY rowid").arg(RowsOfSetup(1)));
+    Statement statement = connection.prepare(
+        QStringLiteral("SELECT ItemValue FROM SelectedItems WHERE %1 ORDER BY rowid").arg(RowsOfSetup(1)));
     statement.bind(1, setupName);
     std::vector<SelectedItem> items;
     while (statement.step()) {

@@ -46,8 +46,7 @@ void RequireStyle(const SetupColumn& column, const std::variant<int, QString>& v
 
 SetupEditing::SetupEditing(Connection& connection, Environment& environment, const QString& setupName)
     : m_connection(connection), m_environment(environment), m_row(RequireSetup(connection, setupName)),
-      m_changes(connection,
-                {SetupKind().table, QStringLiteral("TreeHeads"), QStringLiteral("SelectedItems")}),
+      m_changes(connection, {SetupKind().table, QStringLiteral("TreeHeads"), QStringLiteral("SelectedItems")}),
       m_trees(connection, environment, m_changes, m_row.name)
 {
 }

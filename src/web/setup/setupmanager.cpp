@@ -122,8 +122,8 @@ void SetupManager::giveName(const NamedRow& setup, const QString& name)
 {
     NamedRowManager::giveName(setup, name);
     for (const QString& table : tablesBelow) {
-        Statement statement = connection().prepare(
-            QStringLiteral("UPDATE %1 SET SetupName = ?1 WHERE %2").arg(table, RowsOfSetup(2)));
+        Statement statement =
+            connection().prepare(QStringLiteral("UPDATE %1 SET SetupName = ?1 WHERE %2").arg(table, RowsOfSetup(2)));
         // The blank after the new name is how earlier releases store these rows; comparing names passes over it.
         statement.bind(1, name + u' ').bind(2, setup.name).run();
     }

@@ -32,9 +32,8 @@ Message Failed(const QString& reason)
 class FullDisk
 {
 public:
-    explicit FullDisk(const QString& path)
+    explicit FullDisk(const QString& path) : m_atLimit(std::signal(SIGXFSZ, SIG_IGN))
     {
-        std::signal(SIGXFSZ, SIG_IGN);
         ::getrlimit(RLIMIT_FSIZE, &m_before);
         rlimit limit = m_before;
         limit.rlim_cur = static_cast<rlim_t>(QFileInfo(path).size());
@@ -44,17 +43,20 @@ public:
     FullDisk(const FullDisk&) = delete;
     FullDisk& operator=(const FullDisk&) = delete;
 
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_atLimit);
+    }
 
 private:
+    void (*m_atLimit)(int);
     rlimit m_before{};
 };
 
 class PendingChangesTest : public testing::Test
 {
 protected:
-    PendingChangesTest() { world.newFamilyFile(); }
-
     void make(const QString& sql)
     {
         changes.make([this, &sql] { world.execute(sql); });
@@ -73,13 +75,14 @@ protected:
     QStringList lasting()
     {
         world.talk.expect("Undo?", Button::Yes);
-        EXPECT_TRUE(changes.cancel(world.talk, {"Undo?"}));
+        EXPECT_TRUE(changes.cancel(world.talk, {"Undo?", {}, Icon::Warning, {Button::Yes, Button::No}}));
         EXPECT_FALSE(changes.any());
         return shown();
     }
 
     TestWorld world;
-    PendingChanges changes{world.connection(), {"WebSiteInfo", "TreeHeads"}};
+    FamilyFile& file = world.newFamilyFile();
+    PendingChanges changes{file.connection(), {"WebSiteInfo", "TreeHeads"}};
     const QStringList before = shown();
     const QStringList changed = {"kept|1000000", "1|10", "7|3"};
 };
@@ -93,7 +96,7 @@ TEST_F(PendingChangesTest, ChangesOutlastASavingThatFails)
         make(large);
         make("INSERT INTO TreeHeads (TreeNumber, IconNo) VALUES (7, 3)");
         {
-            const FullDisk disk(world.file.path());
+            const FullDisk disk(file.path());
             world.talk.expect("Not saved").expect("Not saved");
             EXPECT_FALSE(save());
             EXPECT_EQ(shown(), changed);
@@ -115,7 +118,7 @@ TEST_F(PendingChangesTest, ChangesOutlastAnotherThatFails)
     const int pages = world.column("PRAGMA page_count").front().toInt();
     world.column(QString("PRAGMA max_page_count = %1").arg(pages + 1));
     EXPECT_THROW(make(large), SQLite::Exception);
-    EXPECT_TRUE(world.connection().inTransaction()) << "what comes next can be undone as well";
+    EXPECT_TRUE(file.connection().inTransaction()) << "what comes next can be undone as well";
     EXPECT_EQ(shown().front().section(u'|', 0, 0), "kept");
     world.column(QString("PRAGMA max_page_count = %1").arg(pages + 1000));
     make(large);
@@ -128,7 +131,7 @@ TEST_F(PendingChangesTest, WhatIsSavedIsSavedThoughNothingCanBeChangedAnyMore)
     make(title.arg("kept"));
     EXPECT_TRUE(save());
     EXPECT_FALSE(changes.any());
-    ASSERT_TRUE(QFile::rename(world.file.path(), world.path("elsewhere.kvf")));
+    ASSERT_TRUE(QFile::rename(file.path(), world.path("elsewhere.kvf")));
     EXPECT_THROW(make(title.arg("gone")), Error);
     EXPECT_FALSE(changes.any());
     EXPECT_TRUE(save());
