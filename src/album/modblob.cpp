@@ -20,15 +20,17 @@ namespace stemwright
 namespace
 {
 
+enum class BlobAccess { Read, Write };
+
 /// The engine's handle on one value, read and written piece by piece.
 class IncrementalBlob
 {
 public:
-    IncrementalBlob(Connection& connection, const BlobField& field, int writable)
-        : m_database(connection.engine().getHandle())
+    IncrementalBlob(Connection& connection, const BlobField& field, BlobAccess access)
     {
-        check(sqlite3_blob_open(m_database, "main", field.table.toUtf8().constData(), field.column.toUtf8().constData(),
-                                field.row, writable, &m_blob));
+        check(sqlite3_blob_open(connection.engine().getHandle(), "main", field.table.toUtf8().constData(),
+                                field.column.toUtf8().constData(), field.row, access == BlobAccess::Write ? 1 : 0,
+                                &m_blob));
     }
 
     IncrementalBlob(const IncrementalBlob&) = delete;
@@ -46,14 +48,13 @@ public:
     }
 
 private:
-    void check(int result)
+    static void check(int result)
     {
         if (result != SQLITE_OK) {
-            throw SQLite::Exception(m_database, result);
+            throw SQLite::Exception(sqlite3_errstr(result), result);
         }
     }
 
-    sqlite3* m_database;
     sqlite3_blob* m_blob = nullptr;
 };
 
@@ -68,16 +69,23 @@ bool IsLong(ColumnType type)
     return type == ColumnType::Binary || type == ColumnType::Memo;
 }
 
-/// What the field holds: no value when it is Null. Throws Error when the row is not there.
-bool HoldsValue(Connection& connection, const BlobField& field)
+/// Throws Error when the row is not there.
+void RequireRow(Connection& connection, const BlobField& field)
 {
-    // The engine finds the type of a long value without reading the value.
-    Statement statement = connection.prepare(
-        QStringLiteral("SELECT typeof(\"%2\") <> 'null' FROM \"%1\" WHERE rowid = ?1").arg(field.table, field.column));
+    Statement statement = connection.prepare(QStringLiteral("SELECT 1 FROM \"%1\" WHERE rowid = ?1").arg(field.table));
     if (!statement.bind(1, field.row).step()) {
         throw Error(QStringLiteral("Table %1 has no row %2.").arg(field.table).arg(field.row));
     }
-    return statement.integer(0) != 0;
+}
+
+/// Whether the row's field is not Null.
+bool HoldsValue(Connection& connection, const BlobField& field)
+{
+    // The engine finds the type of a long value without reading the value.
+    Statement statement =
+        connection.prepare(QStringLiteral("SELECT 1 FROM \"%1\" WHERE rowid = ?1 AND typeof(\"%2\") <> 'null'")
+                               .arg(field.table, field.column));
+    return statement.bind(1, field.row).step();
 }
 
 /// Gives the field a value of `size` zero bytes, which the copy then overwrites in place.
@@ -108,7 +116,7 @@ void LoadBytes(Connection& connection, QFile& file, const BlobField& field)
     }
     const int size = static_cast<int>(file.size());
     Reserve(connection, field, size);
-    IncrementalBlob blob(connection, field, 1);
+    IncrementalBlob blob(connection, field, BlobAccess::Write);
     std::array<char, blobChunkSize> buffer{};
     for (int done = 0; done < size;) {
         const int length = static_cast<int>(file.read(buffer.data(), std::min(blobChunkSize, size - done)));
@@ -122,7 +130,7 @@ void LoadBytes(Connection& connection, QFile& file, const BlobField& field)
 
 void SaveBytes(Connection& connection, const BlobField& field, QFile& file)
 {
-    IncrementalBlob blob(connection, field, 0);
+    IncrementalBlob blob(connection, field, BlobAccess::Read);
     std::array<char, blobChunkSize> buffer{};
     for (int done = 0; done < blob.size();) {
         const int length = std::min(blobChunkSize, blob.size() - done);
@@ -142,7 +150,7 @@ void LoadFileIntoField(Connection& connection, const QString& fileName, const Bl
     if (!file.open(QIODevice::ReadOnly)) {
         FailToRead(file.fileName(), file.errorString());
     }
-    HoldsValue(connection, field);
+    RequireRow(connection, field);
     const ColumnType type = TypeOf(field);
     if (type == ColumnType::Binary) {
         LoadBytes(connection, file, field);
@@ -153,6 +161,7 @@ void LoadFileIntoField(Connection& connection, const QString& fileName, const Bl
 
 void SaveFieldToFile(Connection& connection, const BlobField& field, const QString& fileName)
 {
+    RequireRow(connection, field);
     const bool copies = HoldsValue(connection, field) && IsLong(TypeOf(field));
     QFile file(fileName);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {

@@ -60,7 +60,7 @@ void TakeText(QString& text, const std::optional<std::string>& given)
 
 void ApplyOptions(ItemSelection& selection, int row, const GivenOptions& given)
 {
-    ItemOptions options = ItemOptions::of(selection.items().at(static_cast<std::size_t>(row)));
+    ItemOptions options = ItemOptions::of(selection.item(row));
     options.inTree = given.inTree.value_or(options.inTree);
     options.isPrivate = given.isPrivate.value_or(options.isPrivate);
     TakeText(options.beforeItem, given.beforeItem);

@@ -79,7 +79,7 @@ QString StoredValue(const ColumnDefinition& column, const QString& typed)
 
 QueryEditing::QueryEditing(Connection& connection, Environment& environment, const QString& queryName)
     : m_connection(connection), m_environment(environment), m_row(RequireQuery(connection, queryName)),
-      m_changes(connection)
+      m_changes(connection, {QueryKind().table})
 {
 }
 
@@ -122,8 +122,8 @@ void QueryEditing::write(const ColumnDefinition& column, const QString& stored)
 {
     Statement statement =
         m_connection.prepare(QStringLiteral("UPDATE PicListQueries SET \"%1\" = ?1 WHERE rowid = ?2").arg(column.name));
-    statement.bind(1, stored).bind(2, m_row.row).run();
-    m_edited = true;
+    statement.bind(1, stored).bind(2, m_row.row);
+    m_changes.make([&statement] { statement.run(); });
 }
 
 /// The encoded form of a picture date bound, a null text for none; no value after the user was told what is wrong.
@@ -199,11 +199,7 @@ bool QueryEditing::hasNameIndex()
 
 bool QueryEditing::save()
 {
-    if (!m_changes.save(m_environment.talk, querymessages::QueryFailed)) {
-        return false;
-    }
-    m_edited = false;
-    return true;
+    return m_changes.save(m_environment.talk, querymessages::QueryFailed);
 }
 
 bool QueryEditing::run()
@@ -217,11 +213,7 @@ bool QueryEditing::run()
 
 bool QueryEditing::close()
 {
-    if (m_edited && !m_changes.cancel(m_environment.talk, querymessages::LoseChanges())) {
-        return false;
-    }
-    m_edited = false;
-    return true;
+    return !edited() || m_changes.cancel(m_environment.talk, querymessages::LoseChanges());
 }
 
 } // namespace stemwright

@@ -49,7 +49,7 @@ public:
     bool hasNameIndex();
 
     /// Whether there are changes that were not saved.
-    bool edited() const { return m_edited; }
+    bool edited() const { return m_changes.any(); }
 
     bool save();
     /// Saves, and makes the query the user's default, which fills the list of pictures.
@@ -66,7 +66,6 @@ private:
     Environment& m_environment;
     NamedRow m_row;
     PendingChanges m_changes;
-    bool m_edited = false;
 };
 
 } // namespace stemwright

@@ -36,7 +36,8 @@ protected:
             act(items);
             Press(items, end);
         });
-        return EditItemsToInclude(world.connection(), environment, "Default", nullptr);
+        SetupEditing editing(world.connection(), environment, "Default");
+        return EditItemsToInclude(world.connection(), environment, editing, nullptr) && editing.save();
     }
 
     static void pick(QWidget& items, const char* list, int row)

@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "cli/cliworld.h"
 #include "fault/fingerprint.h"
+#include "support/testworld.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
@@ -153,6 +154,19 @@ TEST_F(FaultsTest, AFailingDiskLeavesTheFileOfAnEarlierRelease)
     expectUntouched("--no", "unreadable", path, 0, "Input/output error");
     expectUntouched("--no", "unreadable", path, 100'000, "Input/output error");
     expectUntouched("--yes", "readonly", world.path({}), 0, "write-protected");
+}
+
+TEST_F(FaultsTest, OfAPictureThatCannotBeReadToItsEndNothingMovesIn)
+{
+    const QString old = STEMWRIGHT_TEST_DATA "/jet/family-2.0/";
+    const QString path = world.write("cats.kvf", ReadWholeFile(old + "cats-2.0.kvf"));
+    const QString picture = world.write("big121.jpg", ReadWholeFile(old + "big121.jpg"));
+    const Outcome outcome = runOnFaultyDisk("unreadable", picture, 50'000, {"--yes", "open", path});
+    EXPECT_EQ(outcome.status, 0) << outcome;
+    EXPECT_TRUE((outcome.output + outcome.errors).contains("big121.jpg")) << outcome;
+    Connection connection(path, OpenMode::ReadWrite);
+    EXPECT_EQ(Rows(connection, "SELECT PicFilename, Picture, PicType FROM AlbumTOC WHERE PicFilename LIKE 'big121%'"),
+              QStringList{"big121.jpg|-|-"});
 }
 
 TEST_F(FaultsTest, AFullDiskEndsThePublication)

@@ -9,6 +9,7 @@
 #include <QtCore/QDir>
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 namespace stemwright::test
 {
@@ -85,6 +86,32 @@ TEST(SetupEditing, OnlySavedChangesLast)
     SetupEditing(world.connection(), world.environment, setupName).set(title, "forgotten");
     EXPECT_EQ(stored(), "saved");
     EXPECT_FALSE(ErrorOf([&] { SetupEditing(world.connection(), world.environment, "x"); }).isEmpty());
+}
+
+TEST_F(SetupEditingTest, EveryKindOfChangeOutlastsASavingThatFails)
+{
+    const auto everything = [this] {
+        return world.column("SELECT SiteTitle, EmblemPicture FROM WebSiteInfo") +
+               world.column("SELECT ItemValue FROM SelectedItems") + world.column("SELECT IconNo FROM TreeHeads");
+    };
+    editing.set("SiteTitle", "kept");
+    editing.set("EmblemPicture", world.write("arms.gif", "GIF89a arms"));
+    editing.setItems({editing.setup().items.front()});
+    trees.add();
+    trees.setIcon(2);
+    trees.keep();
+    const QStringList changed = everything();
+    sqlite3* engine = world.connection().engine().getHandle();
+    sqlite3_commit_hook(
+        engine, [](void*) { return 1; }, nullptr);
+    world.talk.expect("Web Site Setup");
+    EXPECT_FALSE(editing.save());
+    EXPECT_TRUE(editing.edited());
+    EXPECT_EQ(everything(), changed);
+    sqlite3_commit_hook(engine, nullptr, nullptr);
+    EXPECT_TRUE(editing.save());
+    EXPECT_FALSE(world.connection().inTransaction());
+    EXPECT_EQ(everything(), changed);
 }
 
 TEST_F(SetupEditingTest, OnlyRealChangesArePending)

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "web/setup/setupmanager.h"
 
+#include "web/setup/itemselection.h"
 #include "web/setup/setupediting.h"
 #include "web/setupworld.h"
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 namespace stemwright::test
 {
@@ -132,6 +134,37 @@ TEST_F(SetupManagerTest, RowsOfARenamedSetupFollowItsNextNameAndItsEnd)
     world.talk.expect("Confirm Setup Delete", Button::Yes);
     ASSERT_TRUE(manager.remove("Third"));
     EXPECT_EQ(Everything(world), QStringList(7, "'Other'"));
+}
+
+TEST_F(SetupManagerTest, RowsBelongToTheSetupWhateverTheCaseOfItsName)
+{
+    ASSERT_TRUE(manager.rename("Default", "Müller"));
+    world.execute("UPDATE SelectedItems SET SetupName = 'MÜLLER '; UPDATE TreeHeads SET SetupName = 'mÜLLER'");
+    ItemSelection(world.connection(), world.talk, "Müller").save();
+    EXPECT_EQ(world.connection().countRows("SelectedItems"), 5);
+    ASSERT_TRUE(manager.clone("Müller", "Clone"));
+    const auto clone = LoadSetup(world.connection(), "Clone").value();
+    EXPECT_EQ(std::tuple(clone.items.size(), clone.trees.size()), std::tuple(5U, 1U));
+    world.talk.expect("Confirm Setup Delete", Button::Yes);
+    ASSERT_TRUE(manager.remove("Müller"));
+    EXPECT_EQ(Everything(world), QStringList(7, "'Clone'"));
+}
+
+TEST_F(SetupManagerTest, WhatFailsInTheEndLeavesTheSelection)
+{
+    ASSERT_TRUE(manager.create("Other"));
+    manager.select("Other");
+    const QStringList before = Everything(world);
+    sqlite3_commit_hook(
+        world.connection().engine().getHandle(), [](void*) { return 1; }, nullptr);
+    const QString failed = "Web Site Setup";
+    world.talk.expect(failed).expect(failed).expect("Confirm Setup Delete", Button::Yes).expect(failed);
+    EXPECT_FALSE(manager.create("New"));
+    EXPECT_FALSE(manager.rename("Default", "New"));
+    EXPECT_FALSE(manager.remove("Other"));
+    EXPECT_EQ(manager.selected(), "Other");
+    EXPECT_EQ(manager.wizardMode(), WizardMode::Edit);
+    EXPECT_EQ(Everything(world), before);
 }
 
 TEST_F(SetupManagerTest, DeleteAsksAndSelectsTheNextSetup)

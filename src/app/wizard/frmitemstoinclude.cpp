@@ -45,9 +45,9 @@ QStringList CellsOf(const SelectedItem& item)
 class frmItemsToInclude : public QDialog
 {
 public:
-    frmItemsToInclude(Connection& connection, Environment& environment, const QString& setupName, QWidget* parent)
-        : QDialog(parent), m_environment(environment), m_catalogue(LoadItemCatalogue(connection)),
-          m_selection(connection, environment.talk, setupName)
+    frmItemsToInclude(Connection& connection, Environment& environment, SetupEditing& editing, QWidget* parent)
+        : QDialog(parent), m_environment(environment), m_editing(editing), m_catalogue(LoadItemCatalogue(connection)),
+          m_selection(connection, environment.talk, editing.setupName())
     {
         setObjectName(QStringLiteral("frmItemsToInclude"));
         setWindowTitle(QStringLiteral("Items to Include"));
@@ -61,7 +61,7 @@ public:
 
     void accept() override
     {
-        if (attempt([this] { m_selection.save(); })) {
+        if (attempt([this] { m_editing.setItems(m_selection.items()); })) {
             QDialog::accept();
         }
     }
@@ -203,6 +203,7 @@ private:
     }
 
     Environment& m_environment;
+    SetupEditing& m_editing;
     std::vector<SelectedItem> m_catalogue;
     ItemSelection m_selection;
     QListWidget* lstCatalogue = new QListWidget;
@@ -217,10 +218,10 @@ private:
 
 } // namespace
 
-bool EditItemsToInclude(Connection& connection, Environment& environment, const QString& setupName, QWidget* parent)
+bool EditItemsToInclude(Connection& connection, Environment& environment, SetupEditing& editing, QWidget* parent)
 {
     try {
-        return frmItemsToInclude(connection, environment, setupName, parent).exec() == QDialog::Accepted;
+        return frmItemsToInclude(connection, environment, editing, parent).exec() == QDialog::Accepted;
     } catch (const std::exception& exception) {
         environment.talk.tell(setupmessages::SetupFailed(ReasonText(exception)));
         return false;

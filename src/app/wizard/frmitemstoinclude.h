@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/environment.h"
-#include "store/engine/connection.h"
+#include "web/setup/setupediting.h"
 
 class QWidget;
 
@@ -11,8 +11,7 @@ namespace stemwright
 {
 
 /// Shows the items that a setup includes beside those that it could include, and lets the user choose and arrange them.
-/// They are written when OK is pressed; within a transaction of the caller, as a part of it. True when they were. A
-/// failure is told.
-bool EditItemsToInclude(Connection& connection, Environment& environment, const QString& setupName, QWidget* parent);
+/// When OK is pressed, they are a change of the editing. True when they are. A failure is told.
+bool EditItemsToInclude(Connection& connection, Environment& environment, SetupEditing& editing, QWidget* parent);
 
 } // namespace stemwright

@@ -53,7 +53,7 @@ private:
     void chooseItems()
     {
         const WizardContext& wizard = context();
-        if (EditItemsToInclude(wizard.file.connection(), wizard.environment, wizard.setupName, this)) {
+        if (EditItemsToInclude(wizard.file.connection(), wizard.environment, wizard.editing, this)) {
             wizard.changed();
         }
     }

@@ -10,6 +10,8 @@
 
 #include <sqlite3.h>
 
+#include <mutex>
+#include <new>
 #include <utility>
 
 namespace stemwright
@@ -75,6 +77,21 @@ int OpenFlags(OpenMode mode)
     return SQLite::OPEN_READWRITE | SQLite::OPEN_FULLMUTEX | create;
 }
 
+/// Keeps the connection's other thread out, in the manner of std::mutex: what the engine says of a failure is said by
+/// the connection, where the next failure of either thread takes its place.
+class EngineMutex
+{
+public:
+    explicit EngineMutex(sqlite3* database) : m_mutex(sqlite3_db_mutex(database)) {}
+
+    void lock() { sqlite3_mutex_enter(m_mutex); }
+
+    void unlock() { sqlite3_mutex_leave(m_mutex); }
+
+private:
+    sqlite3_mutex* m_mutex;
+};
+
 /// The engine itself looks only when it begins a journal, which it keeps as long as it holds the file.
 void RequireInPlace(sqlite3* database)
 {
@@ -95,16 +112,22 @@ void Statement::Finalizer::operator()(sqlite3_stmt* statement) const
 
 Statement::Statement(const SQLite::Database& database, const QByteArray& sql) : m_database(database.getHandle())
 {
+    EngineMutex mutex(m_database);
+    const std::lock_guard alone(mutex);
     sqlite3_stmt* statement = nullptr;
-    check(sqlite3_prepare_v3(m_database, sql.constData(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT,
-                             &statement, nullptr));
+    const int result = sqlite3_prepare_v3(m_database, sql.constData(), static_cast<int>(sql.size()),
+                                          SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
+    if (result != SQLITE_OK) {
+        throw SQLite::Exception(m_database, result);
+    }
     m_statement.reset(statement);
 }
 
-void Statement::check(int result) const
+/// What binding a value came to.
+void Statement::check(int result)
 {
     if (result != SQLITE_OK) {
-        throw SQLite::Exception(m_database, result);
+        throw SQLite::Exception(sqlite3_errstr(result), result);
     }
 }
 
@@ -159,6 +182,12 @@ Statement& Statement::bindNull(int parameter)
     return *this;
 }
 
+Statement& Statement::bind(int parameter, const EngineValue& value)
+{
+    check(sqlite3_bind_value(m_statement.get(), parameter, value.get()));
+    return *this;
+}
+
 void Statement::clearBindings()
 {
     sqlite3_clear_bindings(m_statement.get());
@@ -168,6 +197,10 @@ bool Statement::step()
 {
     const int result = sqlite3_step(m_statement.get());
     if (result != SQLITE_ROW && result != SQLITE_DONE) {
+        EngineMutex mutex(m_database);
+        const std::lock_guard alone(mutex);
+        // Says again what this statement failed with, whatever was said of others meanwhile.
+        sqlite3_reset(m_statement.get());
         throw SQLite::Exception(m_database, result);
     }
     return result == SQLITE_ROW;
@@ -267,6 +300,15 @@ std::optional<std::string_view> Statement::optionalUtf8(int column) const
     return std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(m_statement.get(), column)));
 }
 
+EngineValue Statement::value(int column) const
+{
+    EngineValue copy(sqlite3_value_dup(sqlite3_column_value(m_statement.get(), column)), sqlite3_value_free);
+    if (copy == nullptr) {
+        throw std::bad_alloc();
+    }
+    return copy;
+}
+
 Connection::Connection(const QString& path, OpenMode mode)
     : m_path(path), m_database(path.toUtf8().constData(), OpenFlags(mode))
 {
@@ -297,6 +339,8 @@ Statement Connection::prepareJet(const QString& sql)
 
 int Connection::execute(const QString& sql)
 {
+    EngineMutex mutex(m_database.getHandle());
+    const std::lock_guard alone(mutex);
     return m_database.exec(sql.toUtf8().constData());
 }
 
@@ -337,14 +381,15 @@ Transaction::Transaction(Connection& connection) : m_connection(connection), m_n
 
 Transaction::~Transaction()
 {
-    if (!m_open) {
+    // A full or failing disk makes the engine undo everything on its own; then there is nothing left to undo here.
+    if (!m_open || !m_connection.inTransaction()) {
         return;
     }
     try {
         m_connection.execute(m_nested ? QStringLiteral("ROLLBACK TO inner_action; RELEASE inner_action")
                                       : QStringLiteral("ROLLBACK"));
     } catch (const SQLite::Exception&) {
-        // A failing disk makes the engine roll back on its own; then there is nothing left to undo here.
+        // Whatever fails in undoing is undone when the file is opened again.
     }
 }
 

@@ -14,11 +14,15 @@
 
 struct sqlite3;
 struct sqlite3_stmt;
+struct sqlite3_value;
 
 /// The connection to a family file, and the one place where the program's QString meets the engine's UTF-8. Failures of
 /// the engine come as SQLite::Exception, which ErrorText() can show. Stands on base only.
 namespace stemwright
 {
+
+/// One value of any kind as the engine holds it, which outlives its row and its statement.
+using EngineValue = std::shared_ptr<sqlite3_value>;
 
 /// A prepared statement. Parameters are numbered from 1, columns from 0. A null QString stands for Null and an empty
 /// one for the empty string, in both directions. It speaks to the engine directly, because the wrapper's statement
@@ -36,6 +40,7 @@ public:
     /// Binds UTF-8 text without copying it; it must stay alive until the statement was run.
     Statement& bindUtf8(int parameter, std::string_view utf8);
     Statement& bindNull(int parameter);
+    Statement& bind(int parameter, const EngineValue& value);
     /// Sets all parameters to Null.
     void clearBindings();
 
@@ -63,13 +68,14 @@ public:
     std::string_view utf8(int column) const;
     /// The same, with no value for Null.
     std::optional<std::string_view> optionalUtf8(int column) const;
+    EngineValue value(int column) const;
 
 private:
     struct Finalizer {
         void operator()(sqlite3_stmt* statement) const;
     };
 
-    void check(int result) const;
+    static void check(int result);
 
     sqlite3* m_database;
     std::unique_ptr<sqlite3_stmt, Finalizer> m_statement;

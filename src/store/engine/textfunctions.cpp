@@ -9,13 +9,17 @@
 
 #include <sqlite3.h>
 
+#include <memory>
+#include <new>
+
 namespace stemwright
 {
 
 namespace
 {
 
-int Compare(void*, int firstSize, const void* first, int secondSize, const void* second)
+/// Only opening the collator can fail, which was done before the engine knew of this.
+int Compare(void*, int firstSize, const void* first, int secondSize, const void* second) noexcept
 {
     return CompareTexts(std::string_view(static_cast<const char*>(first), static_cast<std::size_t>(firstSize)),
                         std::string_view(static_cast<const char*>(second), static_cast<std::size_t>(secondSize)));
@@ -27,31 +31,40 @@ QString TextOf(sqlite3_value* value)
     return QString::fromUtf8(text, sqlite3_value_bytes(value));
 }
 
-/// The pattern of the call, made once for all rows when it is the same for all.
-const Pattern& PatternOf(sqlite3_context* context, sqlite3_value* value)
+/// The pattern is made once for all rows when it is the same for all.
+void Match(sqlite3_context* context, sqlite3_value* patternText, sqlite3_value* text)
 {
-    auto* pattern = static_cast<Pattern*>(sqlite3_get_auxdata(context, 0));
-    if (pattern == nullptr) {
-        pattern = new Pattern(TextOf(value));
-        sqlite3_set_auxdata(context, 0, pattern, [](void* stored) { delete static_cast<Pattern*>(stored); });
+    const auto* kept = static_cast<const Pattern*>(sqlite3_get_auxdata(context, 0));
+    auto made = kept == nullptr ? std::make_unique<Pattern>(TextOf(patternText)) : nullptr;
+    sqlite3_result_int(context, (made ? *made : *kept).matches(TextOf(text)) ? 1 : 0);
+    if (made) {
+        // Comes last: the engine may delete the pattern at once.
+        sqlite3_set_auxdata(context, 0, made.release(), [](void* stored) { delete static_cast<Pattern*>(stored); });
     }
-    return *pattern;
 }
 
-void Like(sqlite3_context* context, int, sqlite3_value** arguments)
+/// The engine is written in C, through which no exception can pass.
+void Like(sqlite3_context* context, int, sqlite3_value** arguments) noexcept
 {
     if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL) {
         sqlite3_result_null(context);
         return;
     }
-    const QString text = TextOf(arguments[1]);
-    sqlite3_result_int(context, PatternOf(context, arguments[0]).matches(text) ? 1 : 0);
+    try {
+        Match(context, arguments[0], arguments[1]);
+    } catch (const std::bad_alloc&) {
+        sqlite3_result_error_nomem(context);
+    } catch (const std::exception& exception) {
+        sqlite3_result_error(context, exception.what(), -1);
+    }
 }
 
 } // namespace
 
 void AddTextFunctions(sqlite3* database)
 {
+    // The first comparison of all opens the collator.
+    CompareTexts(std::string_view(), std::string_view());
     const QByteArray collation = namesCollation.toUtf8();
     const QByteArray like = likeFunction.toUtf8();
     int result = sqlite3_create_collation(database, collation.constData(), SQLITE_UTF8, nullptr, Compare);

@@ -67,6 +67,7 @@ bool CreateFamilyFile(FamilyFile& file, const QString& path, Environment& enviro
         UnfinishedFile unfinished(target);
         WriteNewFile(unfinished.path(), environment);
         PutFamilyFileInPlace(unfinished);
+        ChooseInitialQuery(environment.settings);
     } catch (const std::exception& exception) {
         environment.talk.tell(storemessages::CannotCreate(target, ReasonText(exception)));
         return false;

@@ -43,6 +43,11 @@ Message CannotSaveAs(const QString& path, const QString& reason)
             Icon::Critical};
 }
 
+QString ChangesKept(const QString& reason)
+{
+    return reason + QStringLiteral("\n\nYour changes are not lost: when this is mended, save them again.");
+}
+
 Message JournalsSetAside(const QString& path, const QStringList& aside)
 {
     return {QStringLiteral("Opening family file"),

@@ -14,6 +14,8 @@ Message CouldNotReopen();
 Message CannotCreate(const QString& path, const QString& reason);
 Message CannotOpen(const QString& path, const QString& reason);
 Message CannotSaveAs(const QString& path, const QString& reason);
+/// Why changes were not saved, with what has become of them.
+QString ChangesKept(const QString& reason);
 /// What lay beside a family file and belongs to another file now has these names.
 Message JournalsSetAside(const QString& path, const QStringList& aside);
 /// A backup that holds more individuals than the family file was not overwritten.

@@ -94,19 +94,15 @@ QStringList NamedRowManager::names()
 void NamedRowManager::selectRow(const QString& name)
 {
     m_selected = RequireNamedRow(m_connection, m_kind, name).name;
+    m_isNew = false;
 }
 
-/// Runs an action as one transaction; false when it fails, after telling why, and when it returns false itself.
+/// Runs an action; false when it fails, after telling why, and when it returns false itself.
 template <typename Action>
 bool NamedRowManager::perform(Action action)
 {
     try {
-        Transaction transaction(m_connection);
-        if (!action()) {
-            return false;
-        }
-        transaction.commit();
-        return true;
+        return action();
     } catch (const std::exception& exception) {
         m_environment.talk.tell(m_texts.failure(ReasonText(exception)));
         return false;
@@ -138,20 +134,34 @@ bool NamedRowManager::give(const QString& typedName, Write write)
         if (!isFree(name)) {
             return false;
         }
+        Transaction transaction(m_connection);
         write(name);
+        transaction.commit();
         m_selected = name;
+        m_isNew = false;
         return true;
     });
 }
 
+/// The same for a name that a new row gets.
+template <typename Write>
+bool NamedRowManager::make(const QString& typedName, Write write)
+{
+    if (!give(typedName, write)) {
+        return false;
+    }
+    m_isNew = true;
+    return true;
+}
+
 bool NamedRowManager::create(const QString& typedName)
 {
-    return give(typedName, [this](const QString& name) { writeNew(name); });
+    return make(typedName, [this](const QString& name) { writeNew(name); });
 }
 
 bool NamedRowManager::clone(const QString& source, const QString& typedName)
 {
-    return give(typedName,
+    return make(typedName,
                 [&](const QString& name) { writeClone(RequireNamedRow(m_connection, m_kind, source), name); });
 }
 
@@ -175,8 +185,11 @@ bool NamedRowManager::remove(const QString& name)
             return false;
         }
         const qsizetype place = names().indexOf(row.name);
+        Transaction transaction(m_connection);
         erase(row);
         const QStringList remaining = names();
+        transaction.commit();
+        m_isNew = false;
         m_selected = remaining.value(place < remaining.size() ? place : 0);
         return true;
     });

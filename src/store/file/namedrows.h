@@ -69,6 +69,9 @@ public:
     /// The row that is chosen in the list; empty when there is none. At first the first one of the list.
     const QString& selected() const { return m_selected; }
 
+    /// Whether that row was just made.
+    bool isNew() const { return m_isNew; }
+
     /// Makes a row with the default values, and selects it.
     bool create(const QString& typedName);
     /// Makes a copy of a row, and selects it.
@@ -106,12 +109,15 @@ private:
     bool perform(Action action);
     template <typename Write>
     bool give(const QString& typedName, Write write);
+    template <typename Write>
+    bool make(const QString& typedName, Write write);
 
     Connection& m_connection;
     Environment& m_environment;
     NamedRowKind m_kind;
     NamedRowTexts m_texts;
     QString m_selected;
+    bool m_isNew = false;
 };
 
 } // namespace stemwright

@@ -3,34 +3,67 @@
 #include "store/file/pendingchanges.h"
 
 #include "store/engine/engineerror.h"
+#include "store/file/messages.h"
 
 namespace stemwright
 {
 
-void PendingChanges::begin()
+/// Has the family file in a transaction with all changes, whether or not the engine undid them.
+void PendingChanges::open()
 {
+    if (m_changes && m_connection.inTransaction()) {
+        return;
+    }
     m_changes.reset();
     m_changes.emplace(m_connection);
-    m_writtenBefore = m_connection.engine().getTotalChanges();
+    if (!m_changed) {
+        return;
+    }
+    try {
+        m_changed->putBack(m_connection);
+    } catch (...) {
+        m_changes.reset();
+        throw;
+    }
 }
 
-bool PendingChanges::any() const
+/// After a failure, so that what is shown next are the changes.
+void PendingChanges::reopen()
 {
-    return m_changes && m_connection.engine().getTotalChanges() != m_writtenBefore;
+    try {
+        open();
+    } catch (const std::exception&) {
+        // The disk still fails. The next change and the next saving try again.
+    }
+}
+
+void PendingChanges::make(const std::function<void()>& change)
+{
+    try {
+        open();
+        change();
+        m_changed.emplace(m_connection, m_tables);
+    } catch (...) {
+        reopen();
+        throw;
+    }
 }
 
 bool PendingChanges::save(Talk& talk, Message (*failure)(const QString& reason))
 {
     try {
-        if (m_changes) {
+        if (any()) {
+            open();
             m_changes->commit();
         }
-        begin();
-        return true;
     } catch (const std::exception& exception) {
-        talk.tell(failure(ReasonText(exception)));
+        reopen();
+        talk.tell(failure(storemessages::ChangesKept(ReasonText(exception))));
         return false;
     }
+    m_changes.reset();
+    m_changed.reset();
+    return true;
 }
 
 bool PendingChanges::cancel(Talk& talk, const Message& question)
@@ -39,14 +72,8 @@ bool PendingChanges::cancel(Talk& talk, const Message& question)
         return false;
     }
     m_changes.reset();
+    m_changed.reset();
     return true;
-}
-
-void PendingChanges::aside(const std::function<void()>& procedure)
-{
-    m_changes.reset();
-    procedure();
-    begin();
 }
 
 } // namespace stemwright

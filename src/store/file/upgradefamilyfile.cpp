@@ -5,6 +5,7 @@
 #include "base/files.h"
 #include "store/file/copyfamilyfile.h"
 #include "store/file/recognise.h"
+#include "store/tables/createtables.h"
 #include "store/upgrade/currentfile.h"
 #include "store/upgrade/messages.h"
 #include "store/upgrade/tablechanges.h"
@@ -65,6 +66,9 @@ private:
         }
         m_old.requireUnchanged();
         PutFamilyFileInPlace(current);
+        if (m_gainedQueries) {
+            ChooseInitialQuery(m_environment.settings);
+        }
     }
 
     void upgrade(const QString& workPath)
@@ -75,6 +79,7 @@ private:
         UpgradeRun run{work, m_environment, m_old.path(), [this](const QString& target) { m_old.copyTo(target); }, {}};
         RunUpgradeSteps(run, m_old.version());
         m_missingPictures = run.missingPictures;
+        m_gainedQueries = run.gainedQueries;
         m_leftBehind += PrepareForCurrentFile(work);
     }
 
@@ -101,6 +106,7 @@ private:
     QString m_backup;
     QStringList m_leftBehind;
     QStringList m_missingPictures;
+    bool m_gainedQueries = false;
 };
 
 } // namespace

@@ -29,11 +29,15 @@ void CreateAlbumTOCTable(Connection& connection)
     CreateTable(connection, TableNamed(u"AlbumTOC"));
 }
 
-void CreatePicListQueriesTable(Connection& connection, const Environment& environment)
+void CreatePicListQueriesTable(Connection& connection, const Clock& clock)
 {
     CreateTable(connection, TableNamed(u"PicListQueries"));
-    WriteDefaultQuery(connection, initialQueryName, environment.clock);
-    environment.settings.setValue(setting::picListQueries, setting::defaultPicListQuery, initialQueryName);
+    WriteDefaultQuery(connection, initialQueryName, clock);
+}
+
+void ChooseInitialQuery(Settings& settings)
+{
+    settings.setValue(setting::picListQueries, setting::defaultPicListQuery, initialQueryName);
 }
 
 void CreateSchemaIndiTable(Connection& connection)
@@ -110,7 +114,7 @@ void CreateFamilyFileTables(Connection& connection, const Environment& environme
     CreateIndiTable(connection);
     CreateFamTable(connection);
     CreateAlbumTOCTable(connection);
-    CreatePicListQueriesTable(connection, environment);
+    CreatePicListQueriesTable(connection, environment.clock);
     CreateSchemaIndiTable(connection);
     CreateSchemaFamTable(connection);
     CreateFam2ChildTable(connection);

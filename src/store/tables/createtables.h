@@ -14,8 +14,10 @@ void CreateGenInfoTable(Connection& connection);
 void CreateIndiTable(Connection& connection);
 void CreateFamTable(Connection& connection);
 void CreateAlbumTOCTable(Connection& connection);
-/// With the "Initial" query, whose name becomes the user's default query.
-void CreatePicListQueriesTable(Connection& connection, const Environment& environment);
+/// With the "Initial" query.
+void CreatePicListQueriesTable(Connection& connection, const Clock& clock);
+/// Makes the "Initial" query the user's default one, once the file that it was created in is in its place.
+void ChooseInitialQuery(Settings& settings);
 void CreateSchemaIndiTable(Connection& connection);
 void CreateSchemaFamTable(Connection& connection);
 void CreateFam2ChildTable(Connection& connection);

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 #include "album/imagestructure.h"
-#include "album/modblob.h"
 #include "album/picturesearch.h"
 #include "album/thumbnail.h"
 #include "base/error.h"
@@ -66,14 +65,16 @@ bool MoveIn(UpgradeRun& run, PictureSearch& search, const FileColumns& columns, 
     if (path.isEmpty() || !IsPicture(path)) {
         return false;
     }
+    QByteArray content;
     try {
-        LoadFileIntoField(run.work, path, {columns.table, columns.content, file.row});
+        // Read to its end before anything is written: in the working copy, nothing can be undone.
+        content = ReadWholeFile(path);
     } catch (const Error&) {
         return false;
     }
-    Statement update =
-        run.work.prepare(QStringLiteral("UPDATE %1 SET %2 = ?2 WHERE rowid = ?1").arg(columns.table, columns.type));
-    update.bind(1, file.row).bind(2, QFileInfo(path).suffix()).run();
+    Statement update = run.work.prepare(QStringLiteral("UPDATE %1 SET %2 = ?2, %3 = ?3 WHERE rowid = ?1")
+                                            .arg(columns.table, columns.type, columns.content));
+    update.bind(1, file.row).bind(2, QFileInfo(path).suffix()).bindBytes(3, content).run();
     return true;
 }
 

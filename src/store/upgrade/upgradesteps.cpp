@@ -91,7 +91,8 @@ void RunUpgradeSteps(UpgradeRun& run, QStringView version)
 void AddPictureQueries(UpgradeRun& run)
 {
     if (!run.work.hasTable(u"PicListQueries")) {
-        CreatePicListQueriesTable(run.work, run.environment);
+        CreatePicListQueriesTable(run.work, run.environment.clock);
+        run.gainedQueries = true;
     }
 }
 

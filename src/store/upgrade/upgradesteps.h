@@ -32,6 +32,8 @@ struct UpgradeRun {
     std::function<void(const QString& target)> copyFile;
     /// The picture files that were looked for and not found, as the old file named them.
     QStringList missingPictures;
+    /// Whether the file had no picture list queries and got its first one.
+    bool gainedQueries = false;
 };
 
 /// Whether a version, as a family file states it, is older than another one: they compare as texts, without regard to

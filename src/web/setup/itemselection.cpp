@@ -67,7 +67,7 @@ ItemSelection::ItemSelection(Connection& connection, Talk& talk, const QString& 
 {
 }
 
-SelectedItem& ItemSelection::at(int row)
+void ItemSelection::requireRow(int row) const
 {
     if (row < 0 || row >= static_cast<int>(m_items.size())) {
         throw Error(QStringLiteral("Setup \"%1\" has %2 items; there is no item %3.")
@@ -75,6 +75,17 @@ SelectedItem& ItemSelection::at(int row)
                         .arg(m_items.size())
                         .arg(row + 1));
     }
+}
+
+const SelectedItem& ItemSelection::item(int row) const
+{
+    requireRow(row);
+    return m_items[static_cast<std::size_t>(row)];
+}
+
+SelectedItem& ItemSelection::at(int row)
+{
+    requireRow(row);
     return m_items[static_cast<std::size_t>(row)];
 }
 
@@ -92,7 +103,7 @@ bool ItemSelection::add(const SelectedItem& item)
 
 void ItemSelection::remove(int row)
 {
-    at(row);
+    requireRow(row);
     m_items.erase(m_items.begin() + row);
 }
 
@@ -135,8 +146,7 @@ void ItemSelection::save()
 void WriteSelectedItems(Connection& connection, const QString& setupName, const std::vector<SelectedItem>& items)
 {
     Transaction transaction(connection);
-    Statement erase = connection.prepare(
-        QStringLiteral("DELETE FROM SelectedItems WHERE rtrim(SetupName) = rtrim(?1) COLLATE NOCASE"));
+    Statement erase = connection.prepare(QStringLiteral("DELETE FROM SelectedItems WHERE %1").arg(RowsOfSetup(1)));
     erase.bind(1, setupName).run();
     Statement statement =
         connection.prepare(QStringLiteral("INSERT INTO SelectedItems (SetupName, ItemValue) VALUES (?1, ?2)"));

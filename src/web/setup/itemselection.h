@@ -43,6 +43,8 @@ public:
 
     const std::vector<SelectedItem>& items() const { return m_items; }
 
+    const SelectedItem& item(int row) const;
+
     /// Appends an item of the catalogue. False, after the user was told, when the setup includes it already.
     bool add(const SelectedItem& item);
     void remove(int row);
@@ -62,6 +64,7 @@ public:
     void save();
 
 private:
+    void requireRow(int row) const;
     SelectedItem& at(int row);
 
     Connection& m_connection;

@@ -2,17 +2,17 @@
 // SPDX-License-Identifier: MIT
 #include "web/setup/setup.h"
 
-#include "base/text.h"
 #include "store/engine/schema.h"
+#include "store/engine/textfunctions.h"
 
 #include <utility>
 
 namespace stemwright
 {
 
-QString NameInSql(QString name)
+QString RowsOfSetup(int parameter)
 {
-    return name.replace(u'\'', QStringLiteral("''"));
+    return QStringLiteral("SetupName = ?%1 COLLATE %2").arg(parameter).arg(namesCollation);
 }
 
 const NamedRowKind& SetupKind()
@@ -36,27 +36,26 @@ SetupRow RequireSetup(Connection& connection, const QString& name)
 std::vector<TreeDefinition> LoadTreeDefinitions(Connection& connection, const QString& setupName)
 {
     Statement statement =
-        connection.prepare(QStringLiteral("SELECT TreeHeadName, GenDisplayType, TreeHeadId, IconNo, TreeNumber,"
-                                          " SetupName FROM TreeHeads ORDER BY TreeNumber"));
+        connection.prepare(QStringLiteral("SELECT TreeHeadName, GenDisplayType, TreeHeadId, IconNo, TreeNumber"
+                                          " FROM TreeHeads WHERE %1 ORDER BY TreeNumber")
+                               .arg(RowsOfSetup(1)));
+    statement.bind(1, setupName);
     std::vector<TreeDefinition> trees;
     while (statement.step()) {
-        if (SameName(statement.text(5), setupName)) {
-            trees.push_back({statement.integer(4), statement.optionalInteger(2), statement.text(0), statement.text(1),
-                             statement.integer(3)});
-        }
+        trees.push_back({statement.integer(4), statement.optionalInteger(2), statement.text(0), statement.text(1),
+                         statement.integer(3)});
     }
     return trees;
 }
 
 std::vector<SelectedItem> LoadSelectedItems(Connection& connection, const QString& setupName)
 {
-    Statement statement =
-        connection.prepare(QStringLiteral("SELECT ItemValue, SetupName FROM SelectedItems ORDER BY rowid"));
+    Statement statement = connection.prepare(
+        QStringLiteral("SELECT ItemValue FROM SelectedItems WHERE %1 ORDER BY rowid").arg(RowsOfSetup(1)));
+    statement.bind(1, setupName);
     std::vector<SelectedItem> items;
     while (statement.step()) {
-        if (SameName(statement.text(1), setupName)) {
-            items.push_back(SelectedItem::fromRecord(statement.text(0)));
-        }
+        items.push_back(SelectedItem::fromRecord(statement.text(0)));
     }
     return items;
 }

@@ -63,8 +63,9 @@ using SetupRow = NamedRow;
 /// Setups as rows that the user keeps under names.
 const NamedRowKind& SetupKind();
 
-/// The name as it stands between the single quotes of a statement's text, its own quotes doubled.
-QString NameInSql(QString name);
+/// The condition for the rows of a setup in the tables that hold its items and its trees, whose name is the parameter
+/// with this number: they have the setup's name by the rule of base/text.h.
+QString RowsOfSetup(int parameter);
 
 /// Looks a setup up by its name, in which case and blanks at the end do not count; no value when there is none.
 std::optional<SetupRow> FindSetup(Connection& connection, const QString& name);
@@ -75,10 +76,10 @@ SetupRow RequireSetup(Connection& connection, const QString& name);
 /// Reads the setup with this name; no value when there is none.
 std::optional<Setup> LoadSetup(Connection& connection, const QString& name);
 
-/// The tree definitions of a setup in their order. Rows whose stored name has blanks at its end belong to it as well.
+/// The tree definitions of a setup in their order.
 std::vector<TreeDefinition> LoadTreeDefinitions(Connection& connection, const QString& setupName);
 
-/// The items of a setup in their order, found in the same way.
+/// The items of a setup in their order.
 std::vector<SelectedItem> LoadSelectedItems(Connection& connection, const QString& setupName);
 
 } // namespace stemwright

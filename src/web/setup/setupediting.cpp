@@ -6,6 +6,7 @@
 #include "base/error.h"
 #include "store/engine/engineerror.h"
 #include "web/setup/backgroundstyles.h"
+#include "web/setup/itemselection.h"
 #include "web/setup/setupmessages.h"
 
 #include <QtCore/QDir>
@@ -45,7 +46,8 @@ void RequireStyle(const SetupColumn& column, const std::variant<int, QString>& v
 
 SetupEditing::SetupEditing(Connection& connection, Environment& environment, const QString& setupName)
     : m_connection(connection), m_environment(environment), m_row(RequireSetup(connection, setupName)),
-      m_trees(connection, environment, m_row.name), m_changes(connection)
+      m_changes(connection, {SetupKind().table, QStringLiteral("TreeHeads"), QStringLiteral("SelectedItems")}),
+      m_trees(connection, environment, m_changes, m_row.name)
 {
 }
 
@@ -58,11 +60,25 @@ void SetupEditing::set(const QString& columnName, const QString& typed)
 {
     const SetupColumn& column = SetupColumnNamed(columnName);
     const std::variant<int, QString> value = ParseSetting(column, typed);
-    if (column.kind == SettingKind::Image) {
-        typed.isEmpty() ? removeEmblem() : storeEmblem(typed);
-        return;
-    }
     RequireStyle(column, value, m_environment.application);
+    m_changes.make([&] {
+        if (column.kind != SettingKind::Image) {
+            write(column, value);
+        } else if (typed.isEmpty()) {
+            removeEmblem();
+        } else {
+            storeEmblem(typed);
+        }
+    });
+}
+
+void SetupEditing::setItems(const std::vector<SelectedItem>& items)
+{
+    m_changes.make([&] { WriteSelectedItems(m_connection, m_row.name, items); });
+}
+
+void SetupEditing::write(const SetupColumn& column, const std::variant<int, QString>& value)
+{
     Statement statement =
         m_connection.prepare(QStringLiteral("UPDATE WebSiteInfo SET \"%1\" = ?1 WHERE rowid = ?2").arg(column.name));
     std::visit([&statement](const auto& bound) { statement.bind(1, bound); }, value);
@@ -76,7 +92,8 @@ void SetupEditing::storeEmblem(const QString& path)
     Transaction transaction(m_connection);
     LoadFileIntoField(m_connection, path, {QStringLiteral("WebSiteInfo"), QStringLiteral("EmblemPicture"), m_row.row});
     const bool fits = type.suffixes().contains(suffix, Qt::CaseInsensitive);
-    set(QStringLiteral("EmblemFiletype"), fits ? suffix : type.preferredSuffix());
+    const SetupColumn& typeColumn = SetupColumnNamed(QStringLiteral("EmblemFiletype"));
+    write(typeColumn, ParseSetting(typeColumn, fits ? suffix : type.preferredSuffix()));
     transaction.commit();
 }
 
@@ -159,7 +176,7 @@ void SetupEditing::saveAndRun(const std::function<void()>& procedure)
         return;
     }
     try {
-        m_changes.aside(procedure);
+        procedure();
     } catch (const std::exception& exception) {
         m_environment.talk.tell(setupmessages::SetupFailed(ReasonText(exception)));
     }

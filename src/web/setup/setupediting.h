@@ -27,6 +27,8 @@ public:
     /// Sets a column of the setup from what was typed (setupcolumns.h). An image is read from the file with that path,
     /// whose extension becomes the file type (or the usual one of its kind); an empty path removes the image.
     void set(const QString& columnName, const QString& typed);
+    /// Makes these the setup's items, in their order.
+    void setItems(const std::vector<SelectedItem>& items);
     /// The value of a column in the form in which set() takes it; an image is described by its size.
     QString settingText(const SetupColumn& column) const;
 
@@ -56,14 +58,15 @@ public:
     void saveAndRun(const std::function<void()>& procedure);
 
 private:
+    void write(const SetupColumn& column, const std::variant<int, QString>& value);
     void storeEmblem(const QString& path);
     void removeEmblem();
 
     Connection& m_connection;
     Environment& m_environment;
     SetupRow m_row;
-    TreeEditing m_trees;
     PendingChanges m_changes;
+    TreeEditing m_trees;
 };
 
 } // namespace stemwright

@@ -10,11 +10,16 @@
 
 #include <QtCore/QRegularExpression>
 
+#include <array>
+
 namespace stemwright
 {
 
 namespace
 {
+
+/// The tables of a setup's items and trees.
+const std::array tablesBelow = {QStringLiteral("SelectedItems"), QStringLiteral("TreeHeads")};
 
 const QRegularExpression& Separators()
 {
@@ -52,9 +57,8 @@ void CloneRows(Connection& connection, const QString& table, const QString& colu
                const QString& name)
 {
     Statement statement = connection.prepare(
-        QStringLiteral("INSERT INTO %1 (SetupName, %2) SELECT ?1, %2 FROM %1 WHERE rtrim(SetupName) = rtrim(?2)"
-                       " COLLATE NOCASE ORDER BY rowid")
-            .arg(table, columns));
+        QStringLiteral("INSERT INTO %1 (SetupName, %2) SELECT ?1, %2 FROM %1 WHERE %3 ORDER BY rowid")
+            .arg(table, columns, RowsOfSetup(2)));
     statement.bind(1, name).bind(2, source).run();
 }
 
@@ -86,12 +90,6 @@ SetupManager::SetupManager(Connection& connection, Environment& environment)
 {
 }
 
-void SetupManager::select(const QString& name)
-{
-    selectRow(name);
-    m_wizardMode = WizardMode::Edit;
-}
-
 void SetupManager::requireUsableName(const QString& name) const
 {
     RequireNameOfFolder(name);
@@ -105,7 +103,6 @@ void SetupManager::writeNew(const QString& name)
     WriteDefaultSelectedItems(connection(), name);
     WriteDefaultTreeHead(connection(), name);
     FollowModel(connection(), name, environment());
-    m_wizardMode = WizardMode::New;
 }
 
 void SetupManager::writeClone(const NamedRow& source, const QString& name)
@@ -119,24 +116,26 @@ void SetupManager::writeClone(const NamedRow& source, const QString& name)
     CloneRows(connection(), QStringLiteral("SelectedItems"), QStringLiteral("ItemValue"), source.name, name);
     CloneRows(connection(), QStringLiteral("TreeHeads"),
               QStringLiteral("TreeHeadId, TreeHeadName, GenDisplayType, IconNo"), source.name, name);
-    m_wizardMode = WizardMode::New;
 }
 
 void SetupManager::giveName(const NamedRow& setup, const QString& name)
 {
     NamedRowManager::giveName(setup, name);
-    // The blank after the new name is how earlier releases store these rows; comparing names passes over it.
-    const QString change = QStringLiteral("SET SetupName = '") + NameInSql(name) + QStringLiteral(" ' ") +
-                           QStringLiteral("WHERE SetupName = '") + NameInSql(setup.name) + u'\'';
-    connection().executeJet(QStringLiteral("UPDATE SelectedItems ") + change);
-    connection().executeJet(QStringLiteral("UPDATE TreeHeads ") + change);
+    for (const QString& table : tablesBelow) {
+        Statement statement =
+            connection().prepare(QStringLiteral("UPDATE %1 SET SetupName = ?1 WHERE %2").arg(table, RowsOfSetup(2)));
+        // The blank after the new name is how earlier releases store these rows; comparing names passes over it.
+        statement.bind(1, name + u' ').bind(2, setup.name).run();
+    }
 }
 
 void SetupManager::erase(const NamedRow& setup)
 {
-    const QString condition = QStringLiteral("WHERE SetupName = '") + NameInSql(setup.name) + u'\'';
-    connection().executeJet(QStringLiteral("DELETE FROM SelectedItems ") + condition);
-    connection().executeJet(QStringLiteral("DELETE FROM TreeHeads ") + condition);
+    for (const QString& table : tablesBelow) {
+        Statement statement =
+            connection().prepare(QStringLiteral("DELETE FROM %1 WHERE %2").arg(table, RowsOfSetup(1)));
+        statement.bind(1, setup.name).run();
+    }
     NamedRowManager::erase(setup);
 }
 

@@ -24,9 +24,9 @@ public:
     SetupManager(Connection& connection, Environment& environment);
 
     /// Chooses a setup and calls for it to be edited. Throws Error when there is none with this name.
-    void select(const QString& name);
+    void select(const QString& name) { selectRow(name); }
 
-    WizardMode wizardMode() const { return m_wizardMode; }
+    WizardMode wizardMode() const { return isNew() ? WizardMode::New : WizardMode::Edit; }
 
 private:
     void writeNew(const QString& name) override;
@@ -34,8 +34,6 @@ private:
     void giveName(const NamedRow& setup, const QString& name) override;
     void erase(const NamedRow& setup) override;
     void requireUsableName(const QString& name) const override;
-
-    WizardMode m_wizardMode = WizardMode::Edit;
 };
 
 /// The output folder of a clone: below "fampages" when that is the source's own folder, otherwise beside the source's.

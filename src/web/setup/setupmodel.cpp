@@ -5,7 +5,6 @@
 #include "base/error.h"
 #include "store/engine/engineerror.h"
 #include "web/setup/itemcatalogue.h"
-#include "web/setup/itemselection.h"
 #include "web/setup/setupediting.h"
 #include "web/setup/setupmessages.h"
 
@@ -84,6 +83,7 @@ std::vector<SelectedItem> ItemsHere(Connection& connection, const QJsonArray& re
 
 void Follow(const QJsonObject& model, Connection& connection, const QString& setupName, Environment& environment)
 {
+    Transaction transaction(connection);
     SetupEditing editing(connection, environment, setupName);
     const QJsonObject columns = model.value(columnsKey).toObject();
     for (const SetupColumn& column : SetupColumns()) {
@@ -97,10 +97,11 @@ void Follow(const QJsonObject& model, Connection& connection, const QString& set
                                                             " WHERE rowid = ?2"));
     emblem.isEmpty() ? statement.bindNull(1) : statement.bindBytes(1, emblem);
     statement.bind(2, editing.setup().row).run();
-    WriteSelectedItems(connection, setupName, ItemsHere(connection, model.value(itemsKey).toArray()));
+    editing.setItems(ItemsHere(connection, model.value(itemsKey).toArray()));
     if (!editing.save()) {
         throw Error(QStringLiteral("The model cannot be followed."));
     }
+    transaction.commit();
 }
 
 } // namespace

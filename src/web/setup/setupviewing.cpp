@@ -36,9 +36,8 @@ std::optional<QString> FindPagesToView(Connection& connection, const QString& se
     try {
         const SetupRow found = RequireSetup(connection, setupName);
         Statement statement =
-            connection.prepareJet(QStringLiteral("SELECT WebPageFolder FROM WebSiteInfo WHERE SetupName = '") +
-                                  NameInSql(found.name) + u'\'');
-        const QString folder = statement.step() ? statement.text(0) : QString();
+            connection.prepare(QStringLiteral("SELECT WebPageFolder FROM WebSiteInfo WHERE rowid = ?1"));
+        const QString folder = statement.bind(1, found.row).step() ? statement.text(0) : QString();
         const QFileInfo firstPage(QDir(folder), QStringLiteral("index.html"));
         if (!folder.isEmpty() && firstPage.isFile()) {
             return firstPage.absoluteFilePath();

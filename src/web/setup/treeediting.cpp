@@ -34,8 +34,8 @@ QString TreeIconName(int icon, const ApplicationFolder& application)
     return IconName(TreeIconFile(icon, application) ? icon : 1);
 }
 
-TreeEditing::TreeEditing(Connection& connection, Environment& environment, QString setupName)
-    : m_connection(connection), m_environment(environment), m_setupName(std::move(setupName))
+TreeEditing::TreeEditing(Connection& connection, Environment& environment, PendingChanges& changes, QString setupName)
+    : m_connection(connection), m_environment(environment), m_changes(changes), m_setupName(std::move(setupName))
 {
 }
 
@@ -71,10 +71,14 @@ void TreeEditing::take(TreeDefinition definition)
 
 void TreeEditing::add()
 {
-    Statement statement = m_connection.prepare(
-        QStringLiteral("INSERT INTO TreeHeads (SetupName, GenDisplayType, IconNo) VALUES (?1, 'Outline', 1)"));
-    statement.bind(1, m_setupName).run();
-    edit(static_cast<int>(m_connection.lastInsertId()));
+    int number = 0;
+    m_changes.make([&] {
+        Statement statement = m_connection.prepare(
+            QStringLiteral("INSERT INTO TreeHeads (SetupName, GenDisplayType, IconNo) VALUES (?1, 'Outline', 1)"));
+        statement.bind(1, m_setupName).run();
+        number = static_cast<int>(m_connection.lastInsertId());
+    });
+    edit(number);
 }
 
 void TreeEditing::addOrFillFirst()
@@ -144,7 +148,7 @@ void TreeEditing::keep()
                                             " GenDisplayType = ?3, IconNo = ?4 WHERE TreeNumber = ?5"));
     const TreeDefinition& tree = taken();
     statement.bind(1, tree.headId).bind(2, tree.headName).bind(3, tree.display).bind(4, tree.icon).bind(5, tree.number);
-    statement.run();
+    m_changes.make([&statement] { statement.run(); });
 }
 
 bool TreeEditing::apply()
@@ -170,7 +174,8 @@ bool TreeEditing::remove(int number)
         return false;
     }
     Statement statement = m_connection.prepare(QStringLiteral("DELETE FROM TreeHeads WHERE TreeNumber = ?1"));
-    statement.bind(1, doomed.number).run();
+    statement.bind(1, doomed.number);
+    m_changes.make([&statement] { statement.run(); });
     if (m_edited && m_edited->number == doomed.number) {
         m_edited.reset();
     }

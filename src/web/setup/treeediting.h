@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/environment.h"
+#include "store/file/pendingchanges.h"
 #include "web/setup/setup.h"
 #include "web/setup/treedisplay.h"
 
@@ -26,7 +27,8 @@ QString TreeIconName(int icon, const ApplicationFolder& application);
 class TreeEditing
 {
 public:
-    TreeEditing(Connection& connection, Environment& environment, QString setupName);
+    /// What is stored is one of the `changes`.
+    TreeEditing(Connection& connection, Environment& environment, PendingChanges& changes, QString setupName);
 
     /// The setup's tree definitions in their order, as stored.
     std::vector<TreeDefinition> definitions() const;
@@ -71,6 +73,7 @@ private:
 
     Connection& m_connection;
     Environment& m_environment;
+    PendingChanges& m_changes;
     QString m_setupName;
     std::optional<TreeDefinition> m_edited;
 };

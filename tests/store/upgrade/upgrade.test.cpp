@@ -5,6 +5,7 @@
 #include "store/file/checkfamilyfile.h"
 #include "store/file/recognise.h"
 #include "store/upgrade/convertjet.h"
+#include "store/upgrade/messages.h"
 #include "store/upgrade/upgradesteps.h"
 #include "support/testworld.h"
 
@@ -300,6 +301,24 @@ TEST(UpgradeFailures, LeaveTheFileAsItWas)
         EXPECT_FALSE(OpenFamilyFile(world.file, path, world.environment));
         EXPECT_EQ(ReadWholeFile(path), before);
         EXPECT_EQ(QDir(world.path({})).entryList(QDir::Files), QStringList("broken.kvf"));
+    }
+}
+
+TEST(UpgradeFailures, AStoppedOneLeavesTheDefaultQueryToo)
+{
+    TestWorld world;
+    const auto defaultQuery = [&] {
+        return world.settings.value(setting::picListQueries, setting::defaultPicListQuery);
+    };
+    world.settings.setValue(setting::picListQueries, setting::defaultPicListQuery, "Mine");
+    const QString path = CopyOfFixture(world, "2.2");
+    const QByteArray before = ReadWholeFile(path);
+    for (const bool isStopped : {true, false}) {
+        world.talk.stopAt(isStopped ? upgrademessages::writingFile : QString());
+        world.talk.expect(question, Button::No);
+        EXPECT_EQ(OpenFamilyFile(world.file, path, world.environment), !isStopped);
+        EXPECT_EQ(ReadWholeFile(path) == before, isStopped);
+        EXPECT_EQ(defaultQuery(), isStopped ? "Mine" : "Initial");
     }
 }
 
