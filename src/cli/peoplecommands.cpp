@@ -13,7 +13,7 @@ namespace stemwright
 namespace
 {
 
-/// Whether there are individuals in the tree that a family file holds; the user is told when there are none.
+/// Tells the user, and ends the command, when the tree of a family file has no individuals.
 void RequireIndividuals(bool thereAre, Talk& talk)
 {
     if (!thereAre) {
