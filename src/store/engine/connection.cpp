@@ -159,11 +159,6 @@ Statement& Statement::bindNull(int parameter)
     return *this;
 }
 
-void Statement::clearBindings()
-{
-    sqlite3_clear_bindings(m_statement.get());
-}
-
 bool Statement::step()
 {
     const int result = sqlite3_step(m_statement.get());

@@ -36,8 +36,6 @@ public:
     /// Binds UTF-8 text without copying it; it must stay alive until the statement was run.
     Statement& bindUtf8(int parameter, std::string_view utf8);
     Statement& bindNull(int parameter);
-    /// Sets all parameters to Null.
-    void clearBindings();
 
     /// Goes to the next row; false when there is none.
     bool step();

@@ -273,18 +273,4 @@ QString TranslateJetSql(const QString& sql)
     return StatementWriter(sql).write();
 }
 
-QString TranslateJetCriterion(const QString& criterion, const QString& table)
-{
-    TokenStream tokens(criterion);
-    Scope scope;
-    if (!table.isEmpty()) {
-        scope.add({table, table});
-    }
-    const QString sql = ExpressionReader(tokens, scope).read().sql;
-    if (!tokens.atEnd()) {
-        tokens.fail(QStringLiteral("the end of the criterion"));
-    }
-    return sql;
-}
-
 } // namespace stemwright
