@@ -23,11 +23,6 @@ const NamedRowKind& SetupKind()
     return kind;
 }
 
-std::optional<SetupRow> FindSetup(Connection& connection, const QString& name)
-{
-    return FindNamedRow(connection, SetupKind(), name);
-}
-
 SetupRow RequireSetup(Connection& connection, const QString& name)
 {
     return RequireNamedRow(connection, SetupKind(), name);
@@ -63,7 +58,7 @@ std::vector<SelectedItem> LoadSelectedItems(Connection& connection, const QStrin
 
 std::optional<Setup> LoadSetup(Connection& connection, const QString& name)
 {
-    const std::optional<SetupRow> found = FindSetup(connection, name);
+    const std::optional<SetupRow> found = FindNamedRow(connection, SetupKind(), name);
     if (!found) {
         return std::nullopt;
     }

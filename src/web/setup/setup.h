@@ -66,10 +66,7 @@ const NamedRowKind& SetupKind();
 /// The name as it stands between the single quotes of a statement's text, its own quotes doubled.
 QString NameInSql(QString name);
 
-/// Looks a setup up by its name, in which case and blanks at the end do not count; no value when there is none.
-std::optional<SetupRow> FindSetup(Connection& connection, const QString& name);
-
-/// The same, for a setup that must be there. Throws Error when it is not.
+/// Looks a setup up by its name, in which case and blanks at the end do not count. Throws Error when there is none.
 SetupRow RequireSetup(Connection& connection, const QString& name);
 
 /// Reads the setup with this name; no value when there is none.
