@@ -5,8 +5,6 @@
 #include "base/text.h"
 #include "store/engine/schema.h"
 
-#include <utility>
-
 namespace stemwright
 {
 
