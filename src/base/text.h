@@ -27,4 +27,7 @@ bool SameName(QStringView first, QStringView second);
 /// texts. Making the keys once is much faster than comparing texts over and over in a sort.
 QByteArray CollationKey(QStringView text);
 
+/// Whether all bytes are below 0x80, as in most names: of such a text each byte is a character.
+bool IsAscii(std::string_view bytes);
+
 } // namespace stemwright

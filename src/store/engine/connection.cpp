@@ -211,8 +211,7 @@ QString Statement::text(int column) const
     if (isNull(column)) {
         return {};
     }
-    const std::string_view view = utf8(column);
-    const QString value = QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
+    const QString value = QString::fromUtf8(utf8(column));
     return value.isNull() ? QStringLiteral("") : value;
 }
 
