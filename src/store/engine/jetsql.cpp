@@ -5,6 +5,7 @@
 #include "base/error.h"
 #include "store/engine/jetexpression.h"
 #include "store/engine/schema.h"
+#include "store/engine/tablesql.h"
 
 #include <QtCore/QStringList>
 
