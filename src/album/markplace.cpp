@@ -52,11 +52,6 @@ PointerOnPicture PointerAt(const MarkPlace& place, PointerOnPicture shown)
     return shown;
 }
 
-int PixelsOfTwips(double twips, double twipsPerPixel)
-{
-    return Rounded(twips / twipsPerPixel);
-}
-
 MarkPlace ReadMarkPlace(const QString& typed)
 {
     static const QRegularExpression form(

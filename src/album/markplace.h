@@ -45,9 +45,6 @@ MarkPlace GetPointerCoords(const PointerOnPicture& pointer);
 /// and, for a place without a size, how large the pointer is.
 PointerOnPicture PointerAt(const MarkPlace& place, PointerOnPicture shown);
 
-/// A length in twips as whole pixels of the screen, ties to even. Throws Error outside the range of places.
-int PixelsOfTwips(double twips, double twipsPerPixel);
-
 /// Reads "X,Y" or "X,Y,WIDTH,HEIGHT". Throws Error for anything else.
 MarkPlace ReadMarkPlace(const QString& typed);
 

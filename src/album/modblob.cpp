@@ -20,6 +20,9 @@ namespace stemwright
 namespace
 {
 
+/// The bytes that one step of a copy moves.
+constexpr int chunkSize = 16384;
+
 enum class BlobAccess { Read, Write };
 
 /// The engine's handle on one value, read and written piece by piece.
@@ -117,9 +120,9 @@ void LoadBytes(Connection& connection, QFile& file, const BlobField& field)
     const int size = static_cast<int>(file.size());
     Reserve(connection, field, size);
     IncrementalBlob blob(connection, field, BlobAccess::Write);
-    std::array<char, blobChunkSize> buffer{};
+    std::array<char, chunkSize> buffer{};
     for (int done = 0; done < size;) {
-        const int length = static_cast<int>(file.read(buffer.data(), std::min(blobChunkSize, size - done)));
+        const int length = static_cast<int>(file.read(buffer.data(), std::min(chunkSize, size - done)));
         if (length <= 0) {
             FailToRead(file.fileName(), file.errorString());
         }
@@ -131,9 +134,9 @@ void LoadBytes(Connection& connection, QFile& file, const BlobField& field)
 void SaveBytes(Connection& connection, const BlobField& field, QFile& file)
 {
     IncrementalBlob blob(connection, field, BlobAccess::Read);
-    std::array<char, blobChunkSize> buffer{};
+    std::array<char, chunkSize> buffer{};
     for (int done = 0; done < blob.size();) {
-        const int length = std::min(blobChunkSize, blob.size() - done);
+        const int length = std::min(chunkSize, blob.size() - done);
         blob.read(buffer.data(), length, done);
         if (file.write(buffer.data(), length) != length) {
             FailToWrite(file.fileName(), file.errorString());

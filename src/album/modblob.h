@@ -13,9 +13,6 @@
 namespace stemwright
 {
 
-/// The bytes that one step of a chunked copy moves.
-inline constexpr int blobChunkSize = 16384;
-
 /// A long value of a family file: the column of the row with this row number.
 struct BlobField {
     QString table;

@@ -50,7 +50,7 @@ void BindPlace(Statement& write, int first, const std::optional<MarkPlace>& plac
     write.bind(first + 2, TextOf(stands.width)).bind(first + 3, TextOf(stands.height));
 }
 
-void WriteSizes(Connection& connection, int pictureId, PointerTool tool, QSize defaultSize)
+void WriteSizes(Connection& connection, int pictureId, PointerTool tool)
 {
     if (tool == PointerTool::Arrow) {
         connection
@@ -65,8 +65,8 @@ void WriteSizes(Connection& connection, int pictureId, PointerTool tool, QSize d
                                 "Height = coalesce(nullif(Height, ''), ?3) WHERE PicId = ?1 AND "
                                 "(coalesce(Width, '') = '' OR coalesce(Height, '') = '')"))
         .bind(1, pictureId)
-        .bind(2, TextOf(defaultSize.width()))
-        .bind(3, TextOf(defaultSize.height()))
+        .bind(2, TextOf(defaultPointerSize.width()))
+        .bind(3, TextOf(defaultPointerSize.height()))
         .run();
 }
 
@@ -142,7 +142,7 @@ void PersonMarks::remove(std::size_t mark)
     m_changed = true;
 }
 
-void PersonMarks::write(Connection& connection, int pictureId, PointerTool tool, QSize defaultSize) const
+void PersonMarks::write(Connection& connection, int pictureId, PointerTool tool) const
 {
     Statement remove = connection.prepare(QStringLiteral("DELETE FROM Pic2Person WHERE rowid = ?1"));
     for (const qint64 row : m_removedRows) {
@@ -171,7 +171,7 @@ void PersonMarks::write(Connection& connection, int pictureId, PointerTool tool,
             move.run();
         }
     }
-    WriteSizes(connection, pictureId, tool, defaultSize);
+    WriteSizes(connection, pictureId, tool);
 }
 
 void PersonMarks::sort()

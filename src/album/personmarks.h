@@ -67,9 +67,9 @@ public:
     void remove(std::size_t mark);
 
     /// Writes what is pending to the picture with this number, and gives all its marks the sizes that the tool asks
-    /// for: rectangles without a size get `defaultSize`, arrows have the size 0 x 0. Whatever else the family file
+    /// for: rectangles without a size get the default one, arrows have the size 0 x 0. Whatever else the family file
     /// holds stays as it was written. Must be called within a transaction; afterwards load the list again.
-    void write(Connection& connection, int pictureId, PointerTool tool, QSize defaultSize) const;
+    void write(Connection& connection, int pictureId, PointerTool tool) const;
 
 private:
     void sort();

@@ -69,16 +69,12 @@ void PictureEditing::AddPicRec(std::optional<int> current)
 {
     open({});
     m_returnTo = current;
-    m_adding = true;
-    m_editing = true;
 }
 
 void PictureEditing::EditPicRec(int pictureId)
 {
     open(LoadPictureRecord(m_connection, pictureId));
     m_returnTo = pictureId;
-    m_adding = false;
-    m_editing = true;
 }
 
 void PictureEditing::setDate(const PickedDate& date)
@@ -144,8 +140,8 @@ MarkPlace PictureEditing::typedPlace(const QString& typed) const
             throw Error(QStringLiteral("Persons in this picture are marked by arrows, whose place is X,Y alone."));
         }
     } else if (!place.width) {
-        place.width = m_pointerSize.width();
-        place.height = m_pointerSize.height();
+        place.width = defaultPointerSize.width();
+        place.height = defaultPointerSize.height();
     }
     RequireWithinPicture(place, m_record.size, m_record.pointer);
     return place;
@@ -190,19 +186,15 @@ int PictureEditing::apply()
     record.modified = m_environment.clock.now().toString(Qt::ISODate);
     Transaction transaction(m_connection);
     record.id = WritePictureRecord(m_connection, record, m_content);
-    m_marks.write(m_connection, record.id, record.pointer, m_pointerSize);
+    m_marks.write(m_connection, record.id, record.pointer);
     transaction.commit();
     open(record);
-    m_adding = false;
-    m_editing = false;
     return record.id;
 }
 
 std::optional<int> PictureEditing::cancel()
 {
     open(m_returnTo ? FindPictureRecord(m_connection, *m_returnTo).value_or(PictureRecord{}) : PictureRecord{});
-    m_adding = false;
-    m_editing = false;
     return m_returnTo;
 }
 

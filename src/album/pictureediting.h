@@ -25,21 +25,11 @@ public:
     /// Opens the record of a picture. Throws Error when there is none with this number.
     void EditPicRec(int pictureId);
 
-    bool isAdding() const { return m_adding; }
-
-    bool isEditing() const { return m_editing; }
-
-    /// Whether a picture was chosen, or taken away, that is not applied yet.
-    bool pictureChanged() const { return m_content.has_value(); }
-
     /// The path of the chosen picture file; empty when none was chosen.
     const QString& chosenPath() const { return m_chosenPath; }
 
     /// The record as it stands in the editor.
     const PictureRecord& record() const { return m_record; }
-
-    /// The thumbnail's bytes of a chosen picture; null when it has none.
-    QByteArray chosenThumbnail() const { return m_content ? m_content->thumbnail : QByteArray(); }
 
     const PersonMarks& marks() const { return m_marks; }
 
@@ -61,9 +51,6 @@ public:
 
     /// Switches between arrows and rectangles. False when rectangles would lose their sizes and the user minds.
     bool RectangleOnOff(PointerTool tool);
-
-    /// The size that rectangles get which have none, in pixels.
-    void setPointerSize(QSize size) { m_pointerSize = size; }
 
     /// The place that was typed as "X,Y" or "X,Y,WIDTH,HEIGHT", checked against the picture and the pointer tool.
     MarkPlace typedPlace(const QString& typed) const;
@@ -93,9 +80,6 @@ private:
     QString m_chosenPath;
     std::optional<int> m_returnTo;
     PointerTool m_storedTool = PointerTool::Arrow;
-    QSize m_pointerSize = defaultPointerSize;
-    bool m_adding = false;
-    bool m_editing = false;
 };
 
 } // namespace stemwright

@@ -10,7 +10,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace stemwright
@@ -83,15 +82,12 @@ void ShowAbout(const ApplicationFolder& application, QWidget& parent)
     QLabel* credits = MakeLabel("lblCredits", appmessages::Credits());
     credits->setWordWrap(true);
     credits->setAlignment(Qt::AlignCenter);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
     auto* layout = new QVBoxLayout(&window);
     layout->setContentsMargins(24, 24, 24, 16);
     layout->setSpacing(12);
     layout->addLayout(Masthead(application));
     layout->addWidget(credits);
-    layout->addWidget(buttons);
+    layout->addWidget(MakeOk(window));
     window.setFixedWidth(ForLetters(window, splashWidth));
     // Lines that are wrapped need a height that only a width can tell.
     window.setFixedHeight(layout->totalHeightForWidth(window.width()));

@@ -13,7 +13,6 @@
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QPushButton>
 
 namespace stemwright
 {
@@ -55,13 +54,10 @@ void Show(const FileProperties& properties, Settings& settings, QWidget* parent)
            properties.gedcomFile.isEmpty() ? QStringLiteral("none imported")
                                            : QDir::toNativeSeparators(properties.gedcomFile));
     AddRow(*form, "lblImportDate", QStringLiteral("Imported:"), ImportTime(properties.importDate));
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
     auto* layout = new QVBoxLayout(&window);
     layout->addLayout(form);
     layout->addStretch();
-    layout->addWidget(buttons);
+    layout->addWidget(MakeOk(window));
     RememberPlace(window, settings);
     window.exec();
 }

@@ -8,7 +8,6 @@
 #include <QtGui/QFontDatabase>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QPlainTextEdit>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace stemwright
@@ -27,12 +26,9 @@ void ShowReport(const ImportReport& report, Settings& settings, QWidget& parent)
     text->setObjectName(QStringLiteral("txtReport"));
     text->setReadOnly(true);
     text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
     auto* layout = new QVBoxLayout(&window);
     layout->addWidget(text);
-    layout->addWidget(buttons);
+    layout->addWidget(MakeOk(window));
     RememberPlace(window, settings);
     window.exec();
 }

@@ -10,8 +10,9 @@
 #include <vector>
 
 /// The port through which every procedure talks to the user, whoever runs it: windows, the command line or a test. A
-/// message is a value, made by the functions of each folder's `messages` file; no other code holds a text for the user.
-/// Nothing here fails; an adapter that cannot ask answers with the message's preset.
+/// message is a value, made by the functions of each folder's `messages` file. No other code words what is shown here;
+/// the reasons that messages quote may stand where an Error is thrown. Nothing here fails; an adapter that cannot ask
+/// answers with the message's preset.
 namespace stemwright
 {
 

@@ -4,7 +4,9 @@
 
 #include <unicode/ucol.h>
 
+#include <algorithm>
 #include <array>
+#include <cstring>
 #include <memory>
 #include <stdexcept>
 
@@ -94,6 +96,21 @@ QByteArray CollationKey(QStringView text)
     ucol_getSortKey(RootCollator(), units.data(), length, reinterpret_cast<uint8_t*>(key.data()), size);
     key.chop(1);
     return key;
+}
+
+bool IsAscii(std::string_view bytes)
+{
+    constexpr quint64 highBits = 0x8080808080808080U;
+    std::size_t position = 0;
+    for (; position + sizeof(quint64) <= bytes.size(); position += sizeof(quint64)) {
+        quint64 word = 0;
+        std::memcpy(&word, bytes.data() + position, sizeof word);
+        if ((word & highBits) != 0) {
+            return false;
+        }
+    }
+    return std::none_of(bytes.begin() + static_cast<std::ptrdiff_t>(position), bytes.end(),
+                        [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; });
 }
 
 } // namespace stemwright

@@ -22,6 +22,15 @@ FamilyFile& CommandLine::open(const std::string& path)
     return m_file;
 }
 
+void CommandLine::printReport(const QString& text, const QByteArray& json)
+{
+    if (m_options.format == OutputFormat::Json) {
+        m_out << QString::fromUtf8(json);
+    } else if (!m_options.quiet) {
+        m_out << text;
+    }
+}
+
 bool CommandLine::canAsk() const
 {
     return m_options.answers == Answers::Ask && ::isatty(STDIN_FILENO) != 0;
@@ -51,6 +60,16 @@ void Require(bool succeeded)
     if (!succeeded) {
         throw AlreadyReported{};
     }
+}
+
+std::pair<QString, QString> SplitAssignment(const std::string& assignment, const std::string& form)
+{
+    const QString text = CommandLine::textOf(assignment);
+    const qsizetype equals = text.indexOf(u'=');
+    if (equals <= 0) {
+        throw CLI::ValidationError(form, "\"" + assignment + "\" is not of the form " + form);
+    }
+    return {text.left(equals), text.mid(equals + 1)};
 }
 
 } // namespace stemwright

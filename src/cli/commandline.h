@@ -45,6 +45,9 @@ public:
     /// Standard output, for what the command was asked for.
     QTextStream& out() { return m_out; }
 
+    /// Prints the report of an import: the one for programs (--json), or the one for readers unless they want quiet.
+    void printReport(const QString& text, const QByteArray& json);
+
     /// Opens a family file for the rest of the command. Throws AlreadyReported when it cannot be opened.
     FamilyFile& open(const std::string& path);
 
@@ -64,6 +67,9 @@ private:
 
 /// Throws AlreadyReported unless the procedure succeeded.
 void Require(bool succeeded);
+
+/// Takes a COLUMN=VALUE argument apart. Wrong usage when it has no column or no "=". `form` is what the help calls it.
+std::pair<QString, QString> SplitAssignment(const std::string& assignment, const std::string& form = "COLUMN=VALUE");
 
 /// Adds a command that has commands of its own. `addCommands` is called with it when it is asked for: making all
 /// commands at every start would take longer than many a command does.

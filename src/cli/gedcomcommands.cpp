@@ -9,22 +9,13 @@ namespace stemwright
 namespace
 {
 
-void PrintReport(CommandLine& line, const ImportReport& report)
-{
-    if (line.options().format == OutputFormat::Json) {
-        line.out() << QString::fromUtf8(ReportJson(report));
-    } else if (!line.options().quiet) {
-        line.out() << ReportText(report);
-    }
-}
-
 /// Imports and prints the report, also that of an import which a duplicate stopped.
 void Import(CommandLine& line, const QString& path)
 {
     ImportReport report;
     const bool ranToItsEnd = ImportGedcomFile(line.file(), path, line.environment(), report);
     if (report.outcome != ImportOutcome::Failed) {
-        PrintReport(line, report);
+        line.printReport(ReportText(report), ReportJson(report));
     }
     Require(ranToItsEnd);
 }

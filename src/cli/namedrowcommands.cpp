@@ -46,14 +46,4 @@ void AddNamedRowCommands(CLI::App& app, CommandLine& line, const std::string& wh
         [&line, deleted, make] { Require(make(deleted->open(line), line.environment())->remove(deleted->rowName())); });
 }
 
-std::pair<QString, QString> SplitAssignment(const std::string& assignment)
-{
-    const QString text = CommandLine::textOf(assignment);
-    const qsizetype equals = text.indexOf(u'=');
-    if (equals <= 0) {
-        throw CLI::ValidationError("COLUMN=VALUE", "\"" + assignment + "\" is not of the form COLUMN=VALUE");
-    }
-    return {text.left(equals), text.mid(equals + 1)};
-}
-
 } // namespace stemwright

@@ -39,7 +39,4 @@ std::unique_ptr<NamedRowManager> Make(Connection& connection, Environment& envir
 /// Adds the commands new, clone, rename and delete.
 void AddNamedRowCommands(CLI::App& app, CommandLine& line, const std::string& what, MakeManager make);
 
-/// Takes a COLUMN=VALUE argument apart. Wrong usage when it has no column or no "=".
-std::pair<QString, QString> SplitAssignment(const std::string& assignment);
-
 } // namespace stemwright

@@ -22,11 +22,7 @@ void Import(CommandLine& line, const QString& path)
     AlbumImportReport report;
     const bool ranToItsEnd = ImportPreV2Album(line.file(), path, line.environment(), report);
     if (report.outcome == AlbumImportOutcome::Completed || report.outcome == AlbumImportOutcome::Stopped) {
-        if (line.options().format == OutputFormat::Json) {
-            line.out() << QString::fromUtf8(ReportJson(report));
-        } else if (!line.options().quiet) {
-            line.out() << ReportText(report);
-        }
+        line.printReport(ReportText(report), ReportJson(report));
     }
     Require(ranToItsEnd);
 }

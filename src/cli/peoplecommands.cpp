@@ -13,7 +13,7 @@ namespace stemwright
 namespace
 {
 
-/// Whether there are individuals in the tree that a family file holds; the user is told when there are none.
+/// Tells the user, and ends the command, when the tree of a family file has no individuals.
 void RequireIndividuals(bool thereAre, Talk& talk)
 {
     if (!thereAre) {
@@ -56,21 +56,19 @@ void AddPeople(CLI::App& app, CommandLine& line)
 /// Sets the field that an argument of the form "Email1=anna@example.org" names.
 void SetField(ContactRecord& record, const std::string& assignment)
 {
-    const QString text = CommandLine::textOf(assignment);
-    const qsizetype equals = text.indexOf(u'=');
-    const QString field = text.left(equals).toLower();
-    if (equals > 0 && (field == QStringLiteral("address") || field == QStringLiteral("phone"))) {
+    const auto [name, value] = SplitAssignment(assignment, "FIELD=VALUE");
+    const QString field = name.toLower();
+    if (field == QStringLiteral("address") || field == QStringLiteral("phone")) {
         throw Error(indexmessages::ReadOnlyNote());
     }
-    QString* const target = equals <= 0                          ? nullptr
-                            : field == QStringLiteral("email1")  ? &record.email1
+    QString* const target = field == QStringLiteral("email1")    ? &record.email1
                             : field == QStringLiteral("email2")  ? &record.email2
                             : field == QStringLiteral("webpage") ? &record.webPage
                                                                  : nullptr;
     if (target == nullptr) {
         throw CLI::ValidationError("FIELD=VALUE", "\"" + assignment + "\" is not Email1=, Email2= or WebPage= a value");
     }
-    *target = text.mid(equals + 1);
+    *target = value;
 }
 
 void Show(CommandLine& line, const ContactEditing& contact)

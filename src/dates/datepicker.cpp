@@ -52,6 +52,26 @@ std::optional<int> MonthOfText(const QString& text)
     return std::nullopt;
 }
 
+/// The fields as a typed text fills them; no value when it cannot be read.
+std::optional<DatePicker> PickerOfText(const QString& text)
+{
+    static const QRegularExpression form(
+        QStringLiteral(
+            "^(?:(abt|bef|aft)\\.?(?:\\s+|$))?(?:(\\d{1,2})(?:\\s+|$))?(?:([a-z]+)\\.?(?:\\s+|$))?(-?\\d+)?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    const auto match = form.match(text.simplified());
+    const auto month = MonthOfText(match.captured(3));
+    if (!match.hasMatch() || !month) {
+        return std::nullopt;
+    }
+    DatePicker picker;
+    picker.qualifier = QualifierOfText(match.capturedView(1));
+    picker.day = match.capturedView(2).toInt();
+    picker.month = *month;
+    picker.year = match.captured(4);
+    return picker;
+}
+
 } // namespace
 
 void DatePicker::ShowEncodedDate(const QString& encoded, Talk& talk)
@@ -66,24 +86,6 @@ void DatePicker::ShowEncodedDate(const QString& encoded, Talk& talk)
         month = date->month;
         year = QString::number(date->year);
     }
-}
-
-bool DatePicker::showTyped(const QString& text)
-{
-    static const QRegularExpression form(
-        QStringLiteral(
-            "^(?:(abt|bef|aft)\\.?(?:\\s+|$))?(?:(\\d{1,2})(?:\\s+|$))?(?:([a-z]+)\\.?(?:\\s+|$))?(-?\\d+)?$"),
-        QRegularExpression::CaseInsensitiveOption);
-    const auto match = form.match(text.simplified());
-    const auto typedMonth = MonthOfText(match.captured(3));
-    if (!match.hasMatch() || !typedMonth) {
-        return false;
-    }
-    qualifier = QualifierOfText(match.capturedView(1));
-    day = match.capturedView(2).toInt();
-    month = *typedMonth;
-    year = match.captured(4);
-    return true;
 }
 
 QString DatePicker::typedDate() const
@@ -131,12 +133,12 @@ std::optional<PickedDate> DatePicker::accept(Talk& talk) const
 
 std::optional<PickedDate> PickTypedDate(const QString& text, Talk& talk)
 {
-    DatePicker picker;
-    if (!picker.showTyped(text)) {
+    const std::optional<DatePicker> picker = PickerOfText(text);
+    if (!picker) {
         talk.tell(datemessages::CannotReadDate(text));
         return std::nullopt;
     }
-    return picker.accept(talk);
+    return picker->accept(talk);
 }
 
 } // namespace stemwright

@@ -27,11 +27,6 @@ public:
     /// them.
     void ShowEncodedDate(const QString& encoded, Talk& talk);
 
-    /// Loads a typed text such as "Abt. 12 Mar 1950", "June 1931" or "1900" into the fields; month names may be
-    /// shortened to three letters or written out, in any letter case. False when it cannot be read as that, with the
-    /// fields unchanged.
-    bool showTyped(const QString& text);
-
     /// Checks the fields. The first fault is told and gives no value.
     std::optional<PickedDate> accept(Talk& talk) const;
 
@@ -47,7 +42,8 @@ private:
     QString typedDate() const;
 };
 
-/// Reads and checks a typed date; an empty text is no date. A fault is told and gives no value.
+/// Reads and checks a typed date such as "Abt. 12 Mar 1950", "June 1931" or "1900"; month names may be shortened to
+/// three letters or written out, in any letter case, and an empty text is no date. A fault is told and gives no value.
 std::optional<PickedDate> PickTypedDate(const QString& text, Talk& talk);
 
 } // namespace stemwright

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "gedcom/charset.h"
 
+#include "base/text.h"
 #include "gedcom/ansel.h"
 
 #include <QtCore/QUtf8StringView>
 
-#include <cstring>
+#include <algorithm>
 
 namespace stemwright
 {
@@ -34,21 +35,6 @@ QString CharsetName(Charset charset)
         break;
     }
     return {};
-}
-
-bool IsAscii(std::string_view bytes)
-{
-    constexpr quint64 highBits = 0x8080808080808080U;
-    std::size_t position = 0;
-    for (; position + sizeof(quint64) <= bytes.size(); position += sizeof(quint64)) {
-        quint64 word = 0;
-        std::memcpy(&word, bytes.data() + position, sizeof word);
-        if ((word & highBits) != 0) {
-            return false;
-        }
-    }
-    return std::none_of(bytes.begin() + static_cast<std::ptrdiff_t>(position), bytes.end(),
-                        [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; });
 }
 
 std::size_t IncompleteTail(std::string_view bytes)

@@ -50,9 +50,6 @@ private:
     std::string m_buffer;
 };
 
-/// Whether all bytes are below 0x80.
-bool IsAscii(std::string_view bytes);
-
 /// The length of a UTF-8 sequence that begins at the end of `bytes` and is not whole yet.
 std::size_t IncompleteTail(std::string_view bytes);
 

@@ -21,8 +21,8 @@ std::string_view ColumnText::cut(std::string_view utf8, std::string_view tag, qi
     m_report.note(Loss::CutValue, line, tag);
     // The character behind the limit shows whether the limit stands inside what a reader sees as one character.
     const std::string_view sample = utf8.substr(0, BytesOfCharacters(utf8, maxTextLength + 1));
-    const QString text = QString::fromUtf8(sample.data(), static_cast<qsizetype>(sample.size()));
-    const qsizetype wanted = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(limit)).size();
+    const QString text = QString::fromUtf8(sample);
+    const qsizetype wanted = QString::fromUtf8(utf8.substr(0, limit)).size();
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
     finder.setPosition(wanted);
     const qsizetype boundary = finder.isAtBoundary() ? wanted : finder.toPreviousBoundary();

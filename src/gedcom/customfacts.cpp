@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "gedcom/customfacts.h"
 
-#include "gedcom/charset.h"
+#include "base/text.h"
 
 namespace stemwright
 {
@@ -75,7 +75,7 @@ bool CustomFacts::isTaken(int number)
 const std::string& CustomFacts::folded(std::string_view text)
 {
     if (!IsAscii(text)) {
-        m_folded = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toCaseFolded().toStdString();
+        m_folded = QString::fromUtf8(text).toCaseFolded().toStdString();
         return m_folded;
     }
     m_folded.assign(text);
@@ -113,7 +113,7 @@ void CustomFacts::append(CustomFact fact)
 
 CustomFact CustomFacts::withColumns(std::string_view stem) const
 {
-    const QString name = QString::fromUtf8(stem.data(), static_cast<qsizetype>(stem.size()));
+    const QString name = QString::fromUtf8(stem);
     CustomFact fact;
     fact.stem = stem;
     fact.dateColumn = m_rows.column(name + QStringLiteral("_Date"));

@@ -3,6 +3,7 @@
 #include "gedcom/encoding.h"
 
 #include "base/error.h"
+#include "base/text.h"
 #include "gedcom/importreport.h"
 #include "gedcom/messages.h"
 #include "gedcom/reader.h"

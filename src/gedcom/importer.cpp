@@ -11,6 +11,7 @@
 #include "gedcom/passedrecord.h"
 #include "gedcom/schemarecord.h"
 #include "index/fullname.h"
+#include "store/engine/tablesql.h"
 
 #include <QtCore/QFileInfo>
 

@@ -133,8 +133,7 @@ std::vector<std::pair<QString, qint64>> TagCounts::sorted() const
 QString ReportedText(std::string_view utf8)
 {
     constexpr qsizetype longest = 80;
-    QString text =
-        QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.substr(0, 4 * longest).size())).left(longest);
+    QString text = QString::fromUtf8(utf8.substr(0, 4 * longest)).left(longest);
     for (QChar& character : text) {
         if (!character.isPrint() && !character.isSurrogate()) {
             character = QChar::ReplacementCharacter;

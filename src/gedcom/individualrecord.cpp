@@ -37,11 +37,6 @@ const StandardEvent* StandardEventOf(std::string_view tag)
     return event == standardEvents.end() ? nullptr : event;
 }
 
-QString ToText(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 } // namespace
 
 IndividualRecord::IndividualRecord(RowWriter& row, RowWriter& spouseLinks, CustomFacts& facts, ColumnText& text)
@@ -196,12 +191,12 @@ RowResult IndividualRecord::finish()
 
 QString IndividualRecord::surname()
 {
-    return ToText(row().text(m_columns.surname));
+    return QString::fromUtf8(row().text(m_columns.surname));
 }
 
 QString IndividualRecord::givenName()
 {
-    return ToText(row().text(m_columns.givenName));
+    return QString::fromUtf8(row().text(m_columns.givenName));
 }
 
 } // namespace stemwright

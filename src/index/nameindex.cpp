@@ -15,16 +15,11 @@ namespace
 /// The columns of the texts.
 enum TextColumn : std::size_t { birthDate, deathDate, address, phone, textColumns };
 
-QString Text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 /// Appends a key by which texts sort as the family file's queries sort them: Null before all others.
 void AppendSortKey(std::string& key, const std::optional<std::string_view>& utf8)
 {
     if (utf8) {
-        const QByteArray bytes = CollationKey(Text(*utf8));
+        const QByteArray bytes = CollationKey(QString::fromUtf8(*utf8));
         key.append(1, '\1').append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     }
     // No key holds a zero byte, so that a part that is shorter sorts first whatever follows.
@@ -42,7 +37,7 @@ std::string Folded(std::string_view utf8)
     std::string folded(utf8);
     for (char& character : folded) {
         if (static_cast<unsigned char>(character) >= 0x80) {
-            return Pattern::folded(Text(utf8)).toStdString();
+            return Pattern::folded(QString::fromUtf8(utf8)).toStdString();
         }
         character = static_cast<char>(character >= 'A' && character <= 'Z' ? character + ('a' - 'A') : character);
     }
@@ -83,27 +78,27 @@ NameIndex NameIndex::load(Connection& connection, NameForm form)
 
 QString NameIndex::fullName(NameRow row) const
 {
-    return Text(m_names[row]);
+    return QString::fromUtf8(m_names[row]);
 }
 
 QString NameIndex::birthDate(NameRow row) const
 {
-    return Text(m_texts.text(row, TextColumn::birthDate));
+    return QString::fromUtf8(m_texts.text(row, TextColumn::birthDate));
 }
 
 QString NameIndex::deathDate(NameRow row) const
 {
-    return Text(m_texts.text(row, TextColumn::deathDate));
+    return QString::fromUtf8(m_texts.text(row, TextColumn::deathDate));
 }
 
 QString NameIndex::address(NameRow row) const
 {
-    return Text(m_texts.text(row, TextColumn::address));
+    return QString::fromUtf8(m_texts.text(row, TextColumn::address));
 }
 
 QString NameIndex::phone(NameRow row) const
 {
-    return Text(m_texts.text(row, TextColumn::phone));
+    return QString::fromUtf8(m_texts.text(row, TextColumn::phone));
 }
 
 void NameIndex::sortBy(NameColumn column)
@@ -144,7 +139,7 @@ std::optional<std::string_view> NameIndex::sortedText(NameRow row, NameColumn co
 
 bool NameIndex::matches(NameRow row, const Pattern& pattern) const
 {
-    return pattern.matchesFolded(Text(m_foldedNames[row]));
+    return pattern.matchesFolded(QString::fromUtf8(m_foldedNames[row]));
 }
 
 std::optional<std::size_t> NameIndex::findFrom(std::size_t position, const Pattern& pattern) const

@@ -8,7 +8,6 @@
 #include "oldalbum/messages.h"
 #include "oldalbum/oldnames.h"
 
-#include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
 namespace stemwright

@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "store/engine/schema.h"
+#include "store/engine/tablesql.h"
 #include "store/tables/createtables.h"
 
 namespace stemwright

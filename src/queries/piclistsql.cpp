@@ -5,6 +5,7 @@
 #include "base/error.h"
 #include "queries/relatives.h"
 #include "store/engine/schema.h"
+#include "store/engine/tablesql.h"
 #include "store/tables/createtables.h"
 
 #include <QtCore/QStringList>

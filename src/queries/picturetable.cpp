@@ -33,11 +33,6 @@ std::optional<std::unordered_set<int>> NumbersOf(Connection& connection, const Q
     return numbers;
 }
 
-QString Text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 QString YesNoText(std::string_view stored, const QString& yes, const QString& no)
 {
     if (stored.empty()) {
@@ -105,11 +100,11 @@ QString PictureTable::value(std::size_t row, std::size_t column) const
     const std::string_view stored = m_cells[column].at(m_rows[row]);
     switch (m_columns[column].value) {
     case ListValue::Time:
-        return Text(stored).replace(u'T', u' ');
+        return QString::fromUtf8(stored).replace(u'T', u' ');
     case ListValue::YesNo:
         return YesNoText(stored, QStringLiteral("True"), QStringLiteral("False"));
     default:
-        return Text(stored);
+        return QString::fromUtf8(stored);
     }
 }
 
@@ -128,7 +123,7 @@ std::vector<QByteArray> PictureTable::sortKeys(std::size_t column) const
     std::vector<QByteArray> keys(m_ids.size());
     for (std::size_t row = 0; row < keys.size(); ++row) {
         const std::string_view cell = cells.at(row);
-        keys[row] = kind == ListValue::Text ? CollationKey(Text(cell))
+        keys[row] = kind == ListValue::Text ? CollationKey(QString::fromUtf8(cell))
                                             : QByteArray(cell.data(), static_cast<qsizetype>(cell.size()));
     }
     return keys;

@@ -88,13 +88,7 @@ bool Create(const QString& folder, Talk& talk)
     return true;
 }
 
-} // namespace
-
-ProtectedPlaces ProtectedPlaces::of(const QString& familyFile, const ApplicationFolder& application)
-{
-    return {familyFile, QDir::homePath(), application.path(), application.pagesFolder()};
-}
-
+/// Why no site may be written into a folder, as a whole sentence; no value when one may.
 std::optional<QString> WhyNoOutputFolder(const QString& folder, const ProtectedPlaces& places)
 {
     if (folder.trimmed().isEmpty()) {
@@ -123,6 +117,13 @@ std::optional<QString> WhyNoOutputFolder(const QString& folder, const ProtectedP
         return webmessages::HoldsFamilyFile(folder);
     }
     return std::nullopt;
+}
+
+} // namespace
+
+ProtectedPlaces ProtectedPlaces::of(const QString& familyFile, const ApplicationFolder& application)
+{
+    return {familyFile, QDir::homePath(), application.path(), application.pagesFolder()};
 }
 
 std::optional<QString> WarningOfOutputFolder(const QString& folder, const ProtectedPlaces& places)

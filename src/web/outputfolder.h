@@ -25,9 +25,6 @@ struct ProtectedPlaces {
     static ProtectedPlaces of(const QString& familyFile, const ApplicationFolder& application);
 };
 
-/// Why no site may be written into a folder, as a whole sentence; no value when one may.
-std::optional<QString> WhyNoOutputFolder(const QString& folder, const ProtectedPlaces& places);
-
 /// What a user should know of a folder before pages are built, in whole sentences: why no site may be written there,
 /// that the system does not let him write there, or that other files than those of a site would be deleted there. No
 /// value when nothing is known against it.

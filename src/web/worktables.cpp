@@ -3,6 +3,7 @@
 #include "web/worktables.h"
 
 #include "store/engine/schema.h"
+#include "store/engine/tablesql.h"
 #include "web/links/picturelinks.h"
 #include "web/people/nameindex.h"
 #include "web/run/ancestorchain.h"
@@ -13,16 +14,10 @@ namespace stemwright
 namespace
 {
 
-/// The text cut to what a text column holds.
-std::string_view CutToColumn(std::string_view utf8)
-{
-    return utf8.substr(0, BytesOfCharacters(utf8, maxTextLength));
-}
-
-class RowWriter
+class EntryWriter
 {
 public:
-    RowWriter(const SiteRun& run, Connection& connection)
+    EntryWriter(const SiteRun& run, Connection& connection)
         : m_run(run), m_insert(connection.prepare(QStringLiteral(
                           "INSERT INTO Indi2Page (IndiId, AncestorId, TreeNumber, PageOwnerId, GenDisplayType, Name,"
                           " Name4Index, AfterName, Links2Info, AncestorChain)"
@@ -84,7 +79,7 @@ const TableDefinition& UniqueIds()
 
 void FillIndi2Page(const SiteRun& run, Connection& connection)
 {
-    RowWriter writer(run, connection);
+    EntryWriter writer(run, connection);
     for (const PublishedTree& tree : run.trees) {
         for (EntryNumber number = 0; number < tree.walk.entries().size(); ++number) {
             if (tree.walk.entries()[number].person != nowhere) {

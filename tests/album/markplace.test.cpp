@@ -36,8 +36,8 @@ TEST(MarkPlace, ComesBackFromThePointerThatShowsIt)
 
 TEST(MarkPlace, IsASmallNumber)
 {
-    EXPECT_EQ(PixelsOfTwips(32767, 1), 32767);
-    EXPECT_THROW(PixelsOfTwips(32768, 1), Error);
+    EXPECT_EQ(GetPointerCoords({32767, 0, 0, 0, 0, 0, 1, 1}).x, 32767);
+    EXPECT_THROW(GetPointerCoords({32768, 0, 0, 0, 0, 0, 1, 1}), Error);
     EXPECT_THROW(GetPointerCoords({100, 0, 0, 0, 0, 0, 15, 0}), Error);
 }
 

@@ -179,12 +179,18 @@ bool IsReturnInList(const QKeyEvent& event, const QWidget& window)
     return isReturn && qobject_cast<QAbstractItemView*>(window.focusWidget()) != nullptr;
 }
 
+QDialogButtonBox* MakeOk(QDialog& window)
+{
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
+    return buttons;
+}
+
 QDialogButtonBox* MakeOkCancel(QDialog& window)
 {
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-    QObject::connect(buttons, &QDialogButtonBox::accepted, &window, &QDialog::accept);
+    QDialogButtonBox* buttons = MakeOk(window);
+    buttons->addButton(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
     QObject::connect(buttons, &QDialogButtonBox::rejected, &window, &QDialog::reject);
     return buttons;
 }

@@ -41,7 +41,9 @@ QHBoxLayout* MakeRow(std::initializer_list<QWidget*> controls);
 /// Whether a key is Return in one of the window's lists, where it acts on the row and not on the window.
 bool IsReturnInList(const QKeyEvent& event, const QWidget& window);
 
-/// OK (`cmdOK`) and Cancel (`cmdCancel`) that accept and reject the window.
+/// OK (`cmdOK`), which accepts the window.
+QDialogButtonBox* MakeOk(QDialog& window);
+/// The same with Cancel (`cmdCancel`), which rejects it.
 QDialogButtonBox* MakeOkCancel(QDialog& window);
 
 /// A length in pixels, given for letters of the usual size, for those of the window.

@@ -130,7 +130,7 @@ QString Purpose()
 QString Credits()
 {
     return QStringLiteral("Made by the Stemwright authors.\nFree software under the MIT licence; it comes without any "
-                          "warranty.\n\nBuilt with Qt, SQLite, SQLiteCpp and ICU.");
+                          "warranty.\n\nBuilt with Qt, SQLite, SQLiteCpp, CLI11, libmdb and ICU.");
 }
 
 QString SetupsExplanation()

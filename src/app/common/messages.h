@@ -45,8 +45,8 @@ QString SetupsExplanation();
 QString ItemsToInclude();
 /// What an item of this table belongs to: "Indi", "Fam" or "Fam2Child".
 QString OriginOfItem(const QString& table);
-/// What the settings for uploading are good for.
 QString SelectSetupExplanation();
+/// What the settings for uploading are good for.
 QString UploadExplanation();
 /// The viewer lost its page.
 QString PageCannotBeShown();

@@ -5,7 +5,6 @@
 #include "app/common/controls.h"
 
 #include <QtCore/QScopedValueRollback>
-#include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QHeaderView>

@@ -5,7 +5,6 @@
 #include "app/common/controls.h"
 
 #include <QtCore/QDeadlineTimer>
-#include <QtGui/QKeyEvent>
 #include <QtGui/QWindow>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>

@@ -6,7 +6,6 @@
 #include "app/common/messages.h"
 #include "base/error.h"
 
-#include <QtCore/QDir>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QApplication>

@@ -7,7 +7,6 @@
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFormLayout>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 

@@ -24,7 +24,7 @@ QString NoEmblem();
 QString EmblemCannotBeShown();
 QString SampleOfColours();
 QString Finished();
-/// What is going to be built, and who is left out of it or not.
+/// What is going to be built: the folder and the number of trees; then who is left out of it, or not.
 QString Summary(const Setup& setup);
 QString LivingAreHidden(const Setup& setup);
 QString LivingAreShown();

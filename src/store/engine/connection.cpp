@@ -188,11 +188,6 @@ Statement& Statement::bind(int parameter, const EngineValue& value)
     return *this;
 }
 
-void Statement::clearBindings()
-{
-    sqlite3_clear_bindings(m_statement.get());
-}
-
 bool Statement::step()
 {
     const int result = sqlite3_step(m_statement.get());
@@ -249,8 +244,7 @@ QString Statement::text(int column) const
     if (isNull(column)) {
         return {};
     }
-    const std::string_view view = utf8(column);
-    const QString value = QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
+    const QString value = QString::fromUtf8(utf8(column));
     return value.isNull() ? QStringLiteral("") : value;
 }
 

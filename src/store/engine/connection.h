@@ -41,8 +41,6 @@ public:
     Statement& bindUtf8(int parameter, std::string_view utf8);
     Statement& bindNull(int parameter);
     Statement& bind(int parameter, const EngineValue& value);
-    /// Sets all parameters to Null.
-    void clearBindings();
 
     /// Goes to the next row; false when there is none.
     bool step();

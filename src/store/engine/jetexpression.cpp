@@ -5,9 +5,8 @@
 #include "base/error.h"
 #include "store/engine/jetdates.h"
 #include "store/engine/schema.h"
+#include "store/engine/tablesql.h"
 #include "store/engine/textfunctions.h"
-
-#include <array>
 
 namespace stemwright::jet
 {

@@ -5,6 +5,7 @@
 #include "base/error.h"
 #include "store/engine/jetexpression.h"
 #include "store/engine/schema.h"
+#include "store/engine/tablesql.h"
 
 #include <QtCore/QStringList>
 
@@ -271,20 +272,6 @@ private:
 QString TranslateJetSql(const QString& sql)
 {
     return StatementWriter(sql).write();
-}
-
-QString TranslateJetCriterion(const QString& criterion, const QString& table)
-{
-    TokenStream tokens(criterion);
-    Scope scope;
-    if (!table.isEmpty()) {
-        scope.add({table, table});
-    }
-    const QString sql = ExpressionReader(tokens, scope).read().sql;
-    if (!tokens.atEnd()) {
-        tokens.fail(QStringLiteral("the end of the criterion"));
-    }
-    return sql;
 }
 
 } // namespace stemwright

@@ -15,8 +15,4 @@ namespace stemwright
 /// The engine's SQL for a whole statement.
 QString TranslateJetSql(const QString& sql);
 
-/// The engine's SQL for a search criterion, such as "Tag = 'BURI'" or "FullName Like 'Smith*'", to stand behind WHERE.
-/// `table` is the table that it searches; it may be empty for the rows of a query.
-QString TranslateJetCriterion(const QString& criterion, const QString& table = {});
-
 } // namespace stemwright

@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "store/engine/connection.h"
-
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <string_view>
 #include <vector>
 
-/// The schema of the family file as data: every table with its columns in order and its indexes, and the engine's SQL
-/// made from that. Table and column names are used verbatim in SQL elsewhere. Stands on the connection.
+/// The schema of the family file as data: every table with its columns in order and its indexes, and the length of what
+/// they hold. Table and column names are used verbatim in SQL elsewhere. Stands on texts alone.
 namespace stemwright
 {
 
@@ -54,6 +53,8 @@ void RequireShortText(const QString& text, const QString& what);
 
 /// As much of the beginning of a text as a text column holds. Null stays Null.
 QString CutToColumn(const QString& text);
+/// The same for UTF-8.
+std::string_view CutToColumn(std::string_view utf8);
 
 /// How many bytes the first `count` characters of UTF-8 take; all of them when there are no more.
 std::size_t BytesOfCharacters(std::string_view utf8, int count);
@@ -75,30 +76,5 @@ const ColumnDefinition* FindColumn(const TableDefinition& table, QStringView nam
 
 /// The definition of a table, its name compared without regard to case. Throws Error for an unknown name.
 const TableDefinition& TableNamed(QStringView name);
-
-/// The type with which the engine is told of a column. It decides how the engine converts what is written: names with
-/// CHAR or TEXT keep text as it is (a place named 007 stays 007), while MEMO, DATE and the like would turn it into
-/// numbers.
-QString DeclaredType(ColumnType type);
-
-/// A name in double quotes, as the engine takes every name.
-QString QuotedName(const QString& name);
-
-/// The engine's statements that create a table and its secondary indexes, word for word as the engine keeps them.
-QString CreateTableSql(const TableDefinition& table);
-QStringList CreateIndexesSql(const TableDefinition& table);
-
-/// Creates a table without its secondary indexes; filling a table and indexing it afterwards is much faster than the
-/// other way round. Fails when the table exists.
-void CreateBareTable(Connection& connection, const TableDefinition& table);
-
-/// Creates the secondary indexes of a table.
-void CreateIndexes(Connection& connection, const TableDefinition& table);
-
-/// Creates a table with its indexes.
-void CreateTable(Connection& connection, const TableDefinition& table);
-
-/// Deletes a table with its rows and indexes; a missing table is no error.
-void DropTable(Connection& connection, const TableDefinition& table);
 
 } // namespace stemwright

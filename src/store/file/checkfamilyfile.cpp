@@ -3,6 +3,7 @@
 #include "store/file/checkfamilyfile.h"
 
 #include "store/engine/schema.h"
+#include "store/engine/tablesql.h"
 
 #include <array>
 

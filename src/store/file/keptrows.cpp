@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/file/keptrows.h"
 
-#include "store/engine/schema.h"
+#include "store/engine/tablesql.h"
 #include "store/tables/tableshape.h"
 
 namespace stemwright

@@ -5,7 +5,7 @@
 #include "base/error.h"
 #include "base/text.h"
 #include "store/engine/engineerror.h"
-#include "store/engine/schema.h"
+#include "store/engine/tablesql.h"
 #include "store/tables/tableshape.h"
 
 namespace stemwright

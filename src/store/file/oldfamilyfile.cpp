@@ -4,6 +4,7 @@
 
 #include "base/error.h"
 #include "base/files.h"
+#include "store/engine/tablesql.h"
 #include "store/file/copyfamilyfile.h"
 #include "store/jet/jetfile.h"
 #include "store/upgrade/convertjet.h"

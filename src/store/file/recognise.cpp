@@ -5,6 +5,7 @@
 #include "base/error.h"
 #include "base/files.h"
 #include "store/engine/leftjournal.h"
+#include "store/engine/tablesql.h"
 #include "store/jet/jetfile.h"
 #include "store/tables/tableshape.h"
 #include "store/upgrade/upgradesteps.h"

@@ -12,9 +12,6 @@
 
 #include <mdbtools.h>
 
-#include <algorithm>
-#include <array>
-
 namespace stemwright
 {
 

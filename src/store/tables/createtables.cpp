@@ -3,6 +3,7 @@
 #include "store/tables/createtables.h"
 
 #include "store/engine/schema.h"
+#include "store/engine/tablesql.h"
 #include "store/tables/defaultrows.h"
 
 namespace stemwright

@@ -3,6 +3,7 @@
 #include "store/upgrade/convertjet.h"
 
 #include "base/error.h"
+#include "store/engine/tablesql.h"
 #include "store/tables/tableshape.h"
 #include "store/upgrade/messages.h"
 #include "store/upgrade/tablechanges.h"

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
+#include "store/engine/tablesql.h"
 #include "store/tables/createtables.h"
 #include "store/upgrade/tablechanges.h"
 #include "store/upgrade/upgradesteps.h"

@@ -3,6 +3,7 @@
 #include "store/upgrade/tablechanges.h"
 
 #include "base/error.h"
+#include "store/engine/tablesql.h"
 #include "store/tables/tableshape.h"
 
 namespace stemwright

@@ -22,7 +22,7 @@ void AppendCapitalized(std::string& text, std::string_view word)
         }
         return;
     }
-    const QString letters = QString::fromUtf8(word.data(), static_cast<qsizetype>(word.size()));
+    const QString letters = QString::fromUtf8(word);
     const qsizetype first = letters.front().isHighSurrogate() ? 2 : 1;
     text.append((letters.left(first).toUpper() + letters.mid(first).toLower()).toStdString());
 }

@@ -85,8 +85,7 @@ void Append(std::string& page, std::string_view utf8, const AsciiTable& table)
         const auto byte = static_cast<unsigned char>(utf8[position]);
         if (byte >= endOfAscii) {
             page.append(utf8, written, position - written);
-            const QString rest =
-                QString::fromUtf8(utf8.data() + position, static_cast<qsizetype>(utf8.size() - position));
+            const QString rest = QString::fromUtf8(utf8.substr(position));
             for (const unsigned character : rest.toUcs4()) {
                 if (character < endOfAscii) {
                     AppendAscii(page, static_cast<char>(character), table);

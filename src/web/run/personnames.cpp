@@ -38,6 +38,14 @@ void AppendWords(std::string& name, std::string_view text, std::string_view sepa
     }
 }
 
+/// The text without blanks at its ends and with one blank for several.
+std::string Collapsed(std::string_view utf8)
+{
+    std::string text;
+    AppendWords(text, utf8, " ");
+    return text;
+}
+
 } // namespace
 
 NameParts::NameParts(const SiteTexts& texts, const Privacy& privacy, std::size_t individuals)
@@ -109,13 +117,6 @@ std::string LifeYears(const SiteTexts& texts, TreePosition individual)
     const std::string birth = year(individualcolumn::birthDate);
     const std::string death = year(individualcolumn::deathDate);
     return birth.empty() && death.empty() ? std::string() : '(' + birth + '-' + death + ')';
-}
-
-std::string Collapsed(std::string_view utf8)
-{
-    std::string text;
-    AppendWords(text, utf8, " ");
-    return text;
 }
 
 std::string TidyName(std::string_view utf8)

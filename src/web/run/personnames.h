@@ -73,9 +73,6 @@ bool IsPartOfName(const PublishedItem& item);
 /// The years of birth and death as "(1819-1901)", "(1819-)" or "(-1901)"; empty when neither is known.
 std::string LifeYears(const SiteTexts& texts, TreePosition individual);
 
-/// The text without blanks at its ends and with one blank for several.
-std::string Collapsed(std::string_view utf8);
-
 /// A name that begins with the surname, tidied: without blanks too many and, where the surname or the given name is not
 /// known, without the comma between them.
 std::string TidyName(std::string_view utf8);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "web/run/textwords.h"
 
+#include "base/text.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -16,16 +18,9 @@ bool EndsClause(QChar character)
     return character == u',' || character == u';' || character == u'\n';
 }
 
-bool IsAscii(std::string_view text)
-{
-    return std::all_of(text.begin(), text.end(),
-                       [](char character) { return (static_cast<unsigned char>(character) & 0x80U) == 0; });
-}
-
 QString Decoded(std::string_view utf8)
 {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()))
-        .normalized(QString::NormalizationForm_KC);
+    return QString::fromUtf8(utf8).normalized(QString::NormalizationForm_KC);
 }
 
 QStringList WordsOf(const QString& text)

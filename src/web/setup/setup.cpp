@@ -5,8 +5,6 @@
 #include "store/engine/schema.h"
 #include "store/engine/textfunctions.h"
 
-#include <utility>
-
 namespace stemwright
 {
 
@@ -21,11 +19,6 @@ const NamedRowKind& SetupKind()
     static const NamedRowKind kind = {QStringLiteral("web site setup"), QStringLiteral("WebSiteInfo"),
                                       QStringLiteral("SetupName"), maxTextLength - 1};
     return kind;
-}
-
-std::optional<SetupRow> FindSetup(Connection& connection, const QString& name)
-{
-    return FindNamedRow(connection, SetupKind(), name);
 }
 
 SetupRow RequireSetup(Connection& connection, const QString& name)
@@ -62,7 +55,7 @@ std::vector<SelectedItem> LoadSelectedItems(Connection& connection, const QStrin
 
 std::optional<Setup> LoadSetup(Connection& connection, const QString& name)
 {
-    const std::optional<SetupRow> found = FindSetup(connection, name);
+    const std::optional<SetupRow> found = FindNamedRow(connection, SetupKind(), name);
     if (!found) {
         return std::nullopt;
     }

@@ -67,10 +67,7 @@ const NamedRowKind& SetupKind();
 /// with this number: they have the setup's name by the rule of base/text.h.
 QString RowsOfSetup(int parameter);
 
-/// Looks a setup up by its name, in which case and blanks at the end do not count; no value when there is none.
-std::optional<SetupRow> FindSetup(Connection& connection, const QString& name);
-
-/// The same, for a setup that must be there. Throws Error when it is not.
+/// Looks a setup up by its name, in which case and blanks at the end do not count. Throws Error when there is none.
 SetupRow RequireSetup(Connection& connection, const QString& name);
 
 /// Reads the setup with this name; no value when there is none.

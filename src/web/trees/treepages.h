@@ -6,7 +6,7 @@
 #include "web/run/siterun.h"
 
 /// What the pages of all tree displays but the collapsible one have in common: a head that hands the path of pages to
-/// the top left frame, and an end. Nothing here fails. Stands on the run.
+/// the top left frame, and an end. Only the end fails, as it writes the page. Stands on the run.
 namespace stemwright
 {
 

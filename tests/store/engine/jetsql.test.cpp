@@ -103,15 +103,17 @@ TEST_F(JetSql, CriteriaFindTheirRows)
 {
     connection.execute(TestDataText("store/queries.sql"));
     for (const QStringList& row : TestTable("store/criteria.txt")) {
-        const QString counting = "SELECT count(*) FROM " + row[0] + " WHERE ";
-        EXPECT_EQ(Rows(connection, counting + TranslateJetCriterion(row[1], row[0])), QStringList{row[2]}) << row[1];
+        Statement found = connection.prepareJet("SELECT * FROM " + row[0] + " WHERE " + row[1]);
+        EXPECT_EQ(RowsOf(found).size(), row[2].toInt()) << row[1];
     }
-    const QString names = TranslateJetSql("SELECT Id, Surname & ', ' & GivenName AS FullName FROM Indi");
-    const QString criterion = TranslateJetCriterion("FullName Like 'smith, j*'");
-    EXPECT_EQ(Rows(connection, QString("SELECT Id FROM (%1) WHERE %2").arg(names, criterion)).value(0), u"1");
-    EXPECT_THROW(TranslateJetCriterion("Label = 'O'Brien'"), Error);
-    EXPECT_THROW(TranslateJetCriterion(QString(100000, u'(')), Error);
-    EXPECT_NO_THROW(TranslateJetCriterion(QString("NOT ").repeated(100000) + u'1'));
+}
+
+TEST_F(JetSql, CriteriaHaveAnEndHoweverDeepTheyAre)
+{
+    const QString everybody = "SELECT Id FROM Indi WHERE ";
+    EXPECT_THROW(TranslateJetSql(everybody + "Surname = 'O'Brien'"), Error);
+    EXPECT_THROW(TranslateJetSql(everybody + QString(100000, u'(')), Error);
+    EXPECT_NO_THROW(TranslateJetSql(everybody + QString("NOT ").repeated(100000) + u'1'));
 }
 
 TEST_F(JetSql, ParametersTakeTextsWithQuotes)

@@ -3,6 +3,7 @@
 #include "store/engine/schema.h"
 
 #include "base/files.h"
+#include "store/engine/tablesql.h"
 #include "support/testworld.h"
 
 #include <QtCore/QRegularExpression>
@@ -141,7 +142,7 @@ TEST(Schema, CutsTextsToWhatAColumnHolds)
     for (const auto& [text, cut] : cases) {
         EXPECT_EQ(CutToColumn(text), cut);
     }
-    EXPECT_TRUE(CutToColumn({}).isNull());
+    EXPECT_TRUE(CutToColumn(QString()).isNull());
 }
 
 } // namespace stemwright::test
