@@ -203,10 +203,12 @@ std::string FamilyRecord::withPlace(std::string_view status)
 RowResult FamilyRecord::finish()
 {
     closeEvent();
+    const int partners = int{row().isFilled(m_columns.husband)} + int{row().isFilled(m_columns.wife)};
     if (row().write() == RowResult::KeyExists) {
         return RowResult::KeyExists;
     }
     ++text().report().families;
+    text().report().partners += partners;
     for (const Child& child : m_children) {
         m_childLinks.setInteger(m_linkColumns.family, id());
         m_childLinks.setInteger(m_linkColumns.child, child.id);

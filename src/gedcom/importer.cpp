@@ -189,6 +189,20 @@ void TreeImport::writeSchema()
     }
 }
 
+/// The families with a husband or wife who is in the tree, but has no link to the family.
+std::vector<int> OneSidedFamilies(Connection& connection)
+{
+    Statement family = connection.prepare(
+        QStringLiteral("SELECT Id FROM Fam WHERE EXISTS (SELECT 1 FROM Indi WHERE Indi.Id IN (HusbandId, WifeId) AND "
+                       "NOT EXISTS (SELECT 1 FROM Spouse2Fam WHERE SpouseId = Indi.Id AND FamId = Fam.Id)) "
+                       "ORDER BY Id"));
+    std::vector<int> ids;
+    while (family.step()) {
+        ids.push_back(family.integer(0));
+    }
+    return ids;
+}
+
 /// Tells why a file would leave nobody in the tree.
 [[noreturn]] void RefuseEmptyTree(const ImportReport& report)
 {
@@ -251,6 +265,10 @@ std::optional<Message> RebuildTree(QIODevice& input, Connection& connection, Pro
     }
     for (const TableDefinition* table : tables) {
         CreateIndexes(connection, *table);
+    }
+    // Where a program wrote both sides of every link, there are as many of each, and nothing has to be looked for.
+    if (!duplicate && report.partners != report.spouseLinks) {
+        report.oneSidedFamilies = OneSidedFamilies(connection);
     }
     return duplicate;
 }

@@ -7,6 +7,7 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QStringList>
 
+#include <span>
 #include <tuple>
 
 namespace stemwright
@@ -34,20 +35,36 @@ constexpr std::array<LossWords, lossKinds> lossWords = {
 constexpr std::size_t notesShown = 10;
 constexpr std::size_t tagsShown = 20;
 
-QString NotesText(const LossList& list)
+/// The first of `count` items, each as `textOf` tells it.
+template <typename Item, typename TextOf>
+QString FirstOf(const std::vector<Item>& items, qint64 count, const TextOf& textOf)
 {
     QStringList parts;
-    for (const LossNote& note : list.notes) {
-        if (static_cast<std::size_t>(parts.size()) == notesShown) {
-            break;
-        }
-        parts << QStringLiteral("line %1 %2").arg(QString::number(note.line), note.subject);
+    for (const Item& item : std::span(items).first(std::min(items.size(), notesShown))) {
+        parts << textOf(item);
     }
-    const qint64 more = list.count - parts.size();
+    const qint64 more = count - parts.size();
     if (more > 0) {
         parts << QStringLiteral("and %1 more").arg(more);
     }
     return parts.join(QStringLiteral(", "));
+}
+
+QString NotesText(const LossList& list)
+{
+    return FirstOf(list.notes, list.count, [](const LossNote& note) {
+        return QStringLiteral("line %1 %2").arg(QString::number(note.line), note.subject);
+    });
+}
+
+QString OneSidedText(const std::vector<int>& families)
+{
+    const auto count = static_cast<qint64>(families.size());
+    return QStringLiteral("Families with a husband or wife who has no link back to the family: %1 (numbers %2)\n"
+                          "Family trees show such a family only under the other partner, or not at all. Please let the "
+                          "program that wrote the file export it again with complete links (FAMS lines), and import "
+                          "that.")
+        .arg(QString::number(count), FirstOf(families, count, [](int id) { return QString::number(id); }));
 }
 
 /// The tags of the lines without a place, with their numbers.
@@ -75,6 +92,13 @@ QJsonObject LossObject(const LossList& list)
         notes.append(QJsonObject{{QStringLiteral("line"), note.line}, {QStringLiteral("subject"), note.subject}});
     }
     return {{QStringLiteral("count"), list.count}, {QStringLiteral("lines"), notes}};
+}
+
+QJsonArray NumbersOf(const std::vector<int>& ids)
+{
+    QJsonArray numbers;
+    std::copy(ids.begin(), ids.end(), std::back_inserter(numbers));
+    return numbers;
 }
 
 QString OutcomeWord(ImportOutcome outcome)
@@ -148,6 +172,9 @@ QString ReportText(const ImportReport& report)
                          QStringLiteral("Families: %1").arg(report.families),
                          QStringLiteral("Links to children: %1").arg(report.childLinks),
                          QStringLiteral("Links to spouses: %1").arg(report.spouseLinks)};
+    if (!report.oneSidedFamilies.empty()) {
+        lines << OneSidedText(report.oneSidedFamilies);
+    }
     const bool declaredOtherwise =
         !report.declaredCharset.isEmpty() && report.declaredCharset.compare(report.charset, Qt::CaseInsensitive) != 0;
     lines << (declaredOtherwise
@@ -184,6 +211,7 @@ QByteArray ReportJson(const ImportReport& report)
                        {QStringLiteral("families"), report.families},
                        {QStringLiteral("childLinks"), report.childLinks},
                        {QStringLiteral("spouseLinks"), report.spouseLinks},
+                       {QStringLiteral("oneSidedFamilies"), NumbersOf(report.oneSidedFamilies)},
                        {QStringLiteral("individualsSkipped"), report.skippedIndividuals},
                        {QStringLiteral("familiesSkipped"), report.skippedFamilies},
                        {QStringLiteral("hasTrailer"), report.hasTrailer}};

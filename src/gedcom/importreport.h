@@ -85,6 +85,10 @@ struct ImportReport {
     qint64 families = 0;
     qint64 childLinks = 0;
     qint64 spouseLinks = 0;
+    /// Husbands and wives that the families name.
+    qint64 partners = 0;
+    /// The numbers of the families one of whose partners has no link back to the family. Trees follow that link.
+    std::vector<int> oneSidedFamilies;
     qint64 skippedIndividuals = 0;
     qint64 skippedFamilies = 0;
     /// Whether the file has its TRLR record; one without may be only a part of what was exported.

@@ -18,7 +18,7 @@ namespace stemwright
 class AlbumImport
 {
 public:
-    /// Creates the work tables afresh.
+    /// Creates the work tables where there are none with names.
     AlbumImport(Connection& connection, PictureLoader pictures, AlbumImportReport& report);
 
     /// Imports the records in their stored order, asking about duplicates until the user silences that. False when the

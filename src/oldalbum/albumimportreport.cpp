@@ -56,6 +56,7 @@ QByteArray ReportJson(const AlbumImportReport& report)
                              {QStringLiteral("duplicates"), report.duplicates},
                              {QStringLiteral("names"), report.names},
                              {QStringLiteral("persons"), report.persons},
+                             {QStringLiteral("namesKept"), report.namesKept},
                              {QStringLiteral("loaded"), report.loaded},
                              {QStringLiteral("missing"), QJsonArray::fromStringList(report.missing)},
                              {QStringLiteral("unfit"), QJsonArray::fromStringList(report.unfit)},

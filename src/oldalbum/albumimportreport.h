@@ -29,6 +29,8 @@ struct AlbumImportReport {
     /// Different names, and persons on pictures.
     qint64 names = 0;
     qint64 persons = 0;
+    /// Names of an earlier import that still wait to be matched, because no person came in their stead.
+    qint64 namesKept = 0;
     /// Pictures that came into the family file with their records.
     qint64 loaded = 0;
     /// The picture files that were looked for in vain, as the album names them.

@@ -17,7 +17,7 @@ namespace
 {
 
 /// Whether there is something to import, and the user wants that as things are.
-AlbumImportOutcome Prepare(const OldAlbum& album, Connection& connection, Talk& talk)
+AlbumImportOutcome Prepare(const OldAlbum& album, qint64 namesWaiting, Connection& connection, Talk& talk)
 {
     if (album.pictureCount() == 0) {
         talk.tell(oldalbummessages::EmptyAlbum());
@@ -27,8 +27,7 @@ AlbumImportOutcome Prepare(const OldAlbum& album, Connection& connection, Talk& 
         return AlbumImportOutcome::Declined;
     }
     // The names of an album that was imported before are nowhere else.
-    const qint64 waiting = CountUnmarkedNames(connection);
-    if (waiting > 0 && talk.ask(oldalbummessages::NamesWouldBeLost(waiting)) != Button::Ok) {
+    if (namesWaiting > 0 && talk.ask(oldalbummessages::NamesWouldBeLost(namesWaiting)) != Button::Ok) {
         return AlbumImportOutcome::Declined;
     }
     return AlbumImportOutcome::Completed;
@@ -37,7 +36,8 @@ AlbumImportOutcome Prepare(const OldAlbum& album, Connection& connection, Talk& 
 void Import(FamilyFile& file, const QString& path, Talk& talk, AlbumImportReport& report)
 {
     OldAlbum album(path);
-    report.outcome = Prepare(album, file.connection(), talk);
+    const qint64 namesWaiting = CountUnmarkedNames(file.connection());
+    report.outcome = Prepare(album, namesWaiting, file.connection(), talk);
     if (report.outcome != AlbumImportOutcome::Completed) {
         return;
     }
@@ -47,6 +47,7 @@ void Import(FamilyFile& file, const QString& path, Talk& talk, AlbumImportReport
     if (!import.run(album, talk)) {
         report.outcome = AlbumImportOutcome::Stopped;
     }
+    report.namesKept = report.persons == 0 ? namesWaiting : 0;
     transaction.commit();
 }
 
@@ -71,6 +72,9 @@ bool ImportPreV2Album(FamilyFile& file, const QString& path, Environment& enviro
         report = {};
         talk.tell(oldalbummessages::ImportFailed(path, exception));
         return false;
+    }
+    if (report.namesKept > 0) {
+        talk.tell(oldalbummessages::NamesKept(report.namesKept));
     }
     if (!report.isWhole()) {
         talk.tell(oldalbummessages::NotWhole(report));

@@ -87,12 +87,22 @@ Message NamesWouldBeLost(qint64 names)
 {
     return {QStringLiteral("Names Not Matched Yet"),
             QStringLiteral("%1 of the names that came with the pre-V2 photo album imported last are not marked on its "
-                           "pictures yet. Importing another album replaces them.\n\n"
+                           "pictures yet. Importing another album with persons replaces them.\n\n"
                            "Click Cancel to keep them and match them first, or click OK to continue without them.")
                 .arg(names),
             Icon::Warning,
             {Button::Ok, Button::Cancel},
             Button::Cancel};
+}
+
+Message NamesKept(qint64 names)
+{
+    return {
+        QStringLiteral("Names Not Matched Yet"),
+        QStringLiteral("No person came with this import, so the names of the pre-V2 photo album imported before were "
+                       "kept: %1 of them are not marked on its pictures yet, and you can still match them.")
+            .arg(names),
+        Icon::Information};
 }
 
 Message DuplicatePicture(const QString& filename)

@@ -20,6 +20,8 @@ Message EmptyAlbum();
 Message NoIndividuals();
 /// Names of an earlier import were not matched yet, this many.
 Message NamesWouldBeLost(qint64 names);
+/// They stay after all.
+Message NamesKept(qint64 names);
 Message DuplicatePicture(const QString& filename);
 /// What did not come into the family file whole.
 Message NotWhole(const AlbumImportReport& report);

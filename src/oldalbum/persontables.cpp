@@ -3,6 +3,7 @@
 #include "oldalbum/persontables.h"
 
 #include "base/text.h"
+#include "oldalbum/oldnames.h"
 #include "store/engine/schema.h"
 #include "store/engine/tablesql.h"
 #include "store/tables/createtables.h"
@@ -13,20 +14,27 @@ namespace stemwright
 namespace
 {
 
-Connection& WithFreshTables(Connection& connection)
+void CreateAfresh(Connection& connection)
 {
     for (const TableDefinition& table : OldAlbumTables()) {
         DropTable(connection, table);
     }
     CreatePreV2IndiTable(connection);
     CreatePreV2Pic2PersonTable(connection);
+}
+
+Connection& WithTables(Connection& connection)
+{
+    if (!HasOldNames(connection)) {
+        CreateAfresh(connection);
+    }
     return connection;
 }
 
 } // namespace
 
 PersonTables::PersonTables(Connection& connection)
-    : m_connection(WithFreshTables(connection)),
+    : m_connection(WithTables(connection)),
       m_insertName(connection.prepare(QStringLiteral("INSERT INTO PreV2Indi (Name) VALUES (?1)"))),
       m_insertPlace(connection.prepare(
           QStringLiteral("INSERT INTO PreV2Pic2Person (PicId, PersId, X, Y) VALUES (?1, ?2, ?3, ?4)")))
@@ -35,6 +43,9 @@ PersonTables::PersonTables(Connection& connection)
 
 void PersonTables::add(int pictureId, const Participant& person)
 {
+    if (m_ids.isEmpty()) {
+        CreateAfresh(m_connection);
+    }
     m_insertPlace.bind(1, pictureId).bind(2, idOf(person.name)).bind(3, person.x).bind(4, person.y).run();
 }
 

@@ -15,10 +15,11 @@ namespace stemwright
 class PersonTables
 {
 public:
-    /// Creates the tables afresh. Must be called within a transaction, as must all else.
+    /// Names that an earlier import left stay until the first person comes: the pictures that they stand on are not
+    /// imported again. Must be called within a transaction, as must all else.
     explicit PersonTables(Connection& connection);
 
-    /// Notes that a person stands on a picture. Texts must fit their columns.
+    /// Notes that a person stands on a picture; the first one is noted in fresh tables. Texts must fit their columns.
     void add(int pictureId, const Participant& person);
 
     qint64 nameCount() const { return m_ids.size(); }

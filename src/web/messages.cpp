@@ -297,7 +297,9 @@ QString NoTreeHeadChosen(const QString& setupName)
 
 QString NoFamilies()
 {
-    return QStringLiteral("Nothing was published, because the family tree has no families: there is no tree to draw.");
+    return QStringLiteral("Nothing was published, because no individual is linked to a family as husband or wife: there"
+                          " is no tree to draw. Please let your genealogy program export the family tree with its"
+                          " families and complete links (FAMS lines), and import it again.");
 }
 
 QString TreesHaveHeads(const QString& setupName)

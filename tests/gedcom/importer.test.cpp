@@ -134,6 +134,18 @@ TEST(Importer, ReportsEveryLineThatHasNoPlace)
     }
 }
 
+TEST(Importer, ReportsFamiliesThatAPartnerDoesNotPointBackTo)
+{
+    const QByteArray tree = "0 @I1@ INDI\n1 FAMS @F1@\n0 @I2@ INDI\n0 @F1@ FAM\n1 HUSB @I1@\n1 WIFE @I77@\n";
+    EXPECT_FALSE(ReportText(ImportedTree(tree).report).contains("no link back"));
+    QByteArray families;
+    for (int number = 2; number <= 13; ++number) {
+        families += "0 @F" + QByteArray::number(number) + "@ FAM\n1 WIFE @I2@\n";
+    }
+    const QString text = ReportText(ImportedTree(tree + families).report);
+    EXPECT_TRUE(text.contains("to the family: 12 (numbers 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, and 2 more)\n")) << text;
+}
+
 TEST(Importer, CountsTheTagsOfLinesThatHaveNoPlace)
 {
     QByteArray lines = "1 NOTE 1\n1 NOTE 2\n1 OCCU 3\n";

@@ -62,11 +62,16 @@ public:
     {
         if (m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
             m_first = segmentAt(0);
+            m_isEmptied = read(0, magic.size()) == QByteArray(magic.size(), '\0');
         }
     }
 
     /// Whether the engine would play it back at all.
     bool isHot() const { return m_first.has_value(); }
+
+    /// Whether its change was settled, or had not yet reached the file: the engine never looks at it again, but writes
+    /// over it with the next change.
+    bool isEmptied() const { return m_isEmptied; }
 
     /// The size of the file before the change, in bytes.
     qint64 originalSize() const { return qint64{m_first->originalPages} * m_first->pageSize; }
@@ -98,7 +103,7 @@ private:
     std::optional<Segment> segmentAt(qint64 place)
     {
         const QByteArray head = read(place, segmentHeadSize);
-        if (head.size() < segmentHeadSize || !head.startsWith(QByteArray::fromHex("d9d505f920a163d7"))) {
+        if (head.size() < segmentHeadSize || !head.startsWith(magic)) {
             return std::nullopt;
         }
         Segment segment{place, NumberAt(head, 8), NumberAt(head, 16), NumberAt(head, 20), NumberAt(head, 24)};
@@ -112,8 +117,10 @@ private:
         return segment;
     }
 
+    const QByteArray magic = QByteArray::fromHex("d9d505f920a163d7");
     QFile m_file;
     std::optional<Segment> m_first;
+    bool m_isEmptied = false;
 };
 
 /// A copy on which it is tried what playing back a journal would do.
@@ -274,6 +281,8 @@ QStringList SetForeignJournalsAside(const QString& path)
     Journal journal(file.path() + journalSuffix);
     if (journal.isHot() && !(isDatabase && IsOwn(file, head, journal))) {
         aside << Renamed(file.path() + journalSuffix);
+    } else if (journal.isEmptied()) {
+        QFile::remove(file.path() + journalSuffix);
     }
     const bool mayHaveLog = isDatabase && head.at(writeFormatPlace) == logFormat;
     if (!mayHaveLog && QFileInfo(file.path() + logSuffix).size() > 0) {

@@ -27,9 +27,9 @@ void CountChangesFromContent(const QString& path);
 void RequireUsablePath(const QString& path);
 
 /// Gives a journal and a write-ahead log beside the file at `path` that were not written for it other names, under
-/// which the engine does not find them; returns these, as full paths. Nothing is done while a program has the file
-/// open. Throws Error when a journal cannot be told to be the file's own or not, because the file is damaged either
-/// way.
+/// which the engine does not find them; returns these, as full paths. A journal that the engine has done with, but
+/// would leave until the next change, is removed. Nothing is done while a program has the file open. Throws Error when
+/// a journal cannot be told to be the file's own or not, because the file is damaged either way.
 QStringList SetForeignJournalsAside(const QString& path);
 
 } // namespace stemwright

@@ -20,6 +20,8 @@ namespace stemwright
 namespace
 {
 
+const QString openACopy = QStringLiteral("Please copy the file into a folder of your own and open the copy.");
+
 [[noreturn]] void Refuse(const QString& reason)
 {
     throw Error(reason);
@@ -124,11 +126,12 @@ FileFormat RecogniseFormat(const QString& path)
     }
     const FileFormat format = FormatOf(path);
     if (!info.isWritable()) {
-        Refuse(QStringLiteral("The file is write-protected."));
+        Refuse(QStringLiteral("The file is write-protected. ") + openACopy);
     }
     if (!QFileInfo(info.absolutePath()).isWritable()) {
         Refuse(
-            QStringLiteral("Its folder, %1, is write-protected.").arg(QDir::toNativeSeparators(info.absolutePath())));
+            QStringLiteral("Its folder, %1, is write-protected. ").arg(QDir::toNativeSeparators(info.absolutePath())) +
+            openACopy);
     }
     return format;
 }

@@ -151,6 +151,23 @@ TEST_F(LeftJournal, ALogIsNeverThatOfAFileWithAJournal)
     EXPECT_EQ(SetForeignJournalsAside(path), QStringList(path + "-wal-of-another-file-2"));
 }
 
+TEST_F(LeftJournal, OneThatTheEngineHasDoneWithIsRemoved)
+{
+    make("old");
+    const auto die = [this] {
+        Connection connection(path, OpenMode::ReadWrite);
+        connection.execute(change);
+        EXPECT_EQ(SetForeignJournalsAside(path), QStringList());
+        ::_exit(QFile::exists(journal) ? 0 : 1);
+        return 2;
+    };
+    ASSERT_EQ(RunInOwnProcess(die), 0);
+    ASSERT_TRUE(QFile::exists(journal));
+    EXPECT_EQ(SetForeignJournalsAside(path), QStringList());
+    EXPECT_FALSE(QFile::exists(journal));
+    EXPECT_EQ(saidWhenOpened(), "new");
+}
+
 TEST_F(LeftJournal, ThatOfAnOpenFileIsLeftAlone)
 {
     make("old");

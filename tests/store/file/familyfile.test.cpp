@@ -199,10 +199,10 @@ TEST(FamilyFile, WriteProtectedFilesAndFoldersAreRefused)
         EXPECT_TRUE(world.talk.shown().back().text.contains(reason)) << world.talk.shown().back().text;
     };
     ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0444), 0);
-    expectRefused("The file is write-protected");
+    expectRefused("The file is write-protected. Please copy the file into a folder of your own");
     ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), 0666), 0);
     ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), 0555), 0);
-    expectRefused("Its folder");
+    expectRefused("is write-protected. Please copy the file");
     world.talk.expect(cannotCreate);
     {
         const OrdinaryUser user;
