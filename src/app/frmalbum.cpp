@@ -29,6 +29,7 @@
 #include <QtGui/QAction>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QDropEvent>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
@@ -392,6 +393,16 @@ void frmAlbum::closeEvent(QCloseEvent* event)
         event->accept();
     } else {
         event->ignore();
+    }
+}
+
+/// Escape leaves a record, but asks first: it is pressed by mistake more easily than Cancel.
+void frmAlbum::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        leaveRecord();
+    } else {
+        QMainWindow::keyPressEvent(event);
     }
 }
 

@@ -39,6 +39,11 @@ Message NoPreviousMatch()
     return {QStringLiteral("No Previous Match"), QStringLiteral("Sorry, couldn't find previous match")};
 }
 
+QString NobodyBeginsSo()
+{
+    return QStringLiteral("No name begins like this. A title comes before the given name; * stands for any letters.");
+}
+
 QString ReadOnlyNote()
 {
     return QStringLiteral("The phone number and the street address are \"read only\". "

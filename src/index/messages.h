@@ -17,6 +17,8 @@ InputRequest FindName(const QString& lastText);
 Message NoMatch();
 Message NoNextMatch();
 Message NoPreviousMatch();
+/// What was typed is the beginning of nobody's name.
+QString NobodyBeginsSo();
 
 /// The note on the contact record.
 QString ReadOnlyNote();

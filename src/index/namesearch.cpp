@@ -47,6 +47,7 @@ NameSearch::NameSearch(NameIndex& index) : m_index(index), m_current(index.rowAt
 void NameSearch::setText(const QString& text)
 {
     m_text = text;
+    m_fits = true;
     const QString wanted = BeforeApostrophe(text);
     if (wanted.isEmpty()) {
         m_current = m_index.rowAt(0);
@@ -56,6 +57,7 @@ void NameSearch::setText(const QString& text)
     if (!found && wanted.contains(u' ')) {
         found = m_index.findFrom(0, Pattern(wanted + anyText));
     }
+    m_fits = found.has_value();
     if (found) {
         m_current = m_index.rowAt(*found);
     }
@@ -63,6 +65,7 @@ void NameSearch::setText(const QString& text)
 
 void NameSearch::goTo(NameRow row)
 {
+    m_fits = true;
     m_current = row;
     m_text = m_index.fullName(row);
 }
@@ -96,6 +99,7 @@ bool NameSearch::findNext(Talk& talk)
         return false;
     }
     m_current = m_index.rowAt(*found);
+    m_fits = true;
     m_canFindPrevious = true;
     return true;
 }
@@ -111,6 +115,7 @@ bool NameSearch::findPrevious(Talk& talk)
         return false;
     }
     m_current = m_index.rowAt(*found);
+    m_fits = true;
     m_canFindNext = true;
     return true;
 }

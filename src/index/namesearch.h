@@ -33,6 +33,9 @@ public:
 
     NameRow currentRow() const { return m_current; }
 
+    /// Whether somebody was found by what was typed last, or chosen since. Otherwise the current row is that of before.
+    bool fits() const { return m_fits; }
+
     /// What the text box shows.
     const QString& text() const { return m_text; }
 
@@ -65,6 +68,7 @@ private:
     NameRow m_current;
     QString m_text;
     QString m_lastText;
+    bool m_fits = true;
     bool m_canFindNext = false;
     bool m_canFindPrevious = false;
 };

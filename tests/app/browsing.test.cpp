@@ -10,9 +10,11 @@
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QCheckBox>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QSplitter>
+#include <QtWidgets/QTableView>
 #include <QtWidgets/QTextBrowser>
 
 using namespace stemwright;
@@ -65,6 +67,23 @@ TEST_F(BrowsingTest, TheListIsSortedByHeaderAndSearchedByNumber)
     hand.answer("No such picture");
     Press(window(), "mnuFind");
     EXPECT_EQ(position(), "Picture 7 of 12");
+}
+
+TEST_F(BrowsingTest, ColumnsFitTheirContentsUntilTheUserSetsTheirWidths)
+{
+    start(familyFile());
+    auto& list = Find<QTableView>(window(), "dtgTOC");
+    const int title = 3;
+    for (const char* text : {"A picnic at the lake", "A picnic at the lake and the long way home from there"}) {
+        const int before = list.columnWidth(title);
+        key(Qt::Key_Insert);
+        Type(window(), "txtTitle", text);
+        key(Qt::CTRL | Qt::Key_S);
+        EXPECT_GT(list.columnWidth(title), before) << text;
+    }
+    list.setColumnWidth(title, 70);
+    key(Qt::Key_F5);
+    EXPECT_EQ(list.columnWidth(title), 70);
 }
 
 TEST_F(BrowsingTest, ThumbnailsStandForTheListUnlessItIsTooLong)
@@ -154,6 +173,31 @@ TEST_F(BrowsingTest, TheWelcomeWindowOpensCreatesAndShowsTheCats)
     hand.choose("Create New Family File", world.path("second.kvf"));
     Press(window(), "mnuNew");
     EXPECT_EQ(world.settings.value(setting::openCreateFamFile, setting::lastFamilyFile), world.path("second.kvf"));
+}
+
+TEST_F(BrowsingTest, ANameWithQuotesIsTheNameOfOneFile)
+{
+    const QString named = world.path("Aunt \"Emmy\" 1");
+    const QString file = named + ".kvf";
+    start(familyFile());
+    hand.choose("Save Family File As", named);
+    Press(window(), "mnuSaveAs");
+    EXPECT_TRUE(QFile::exists(file));
+    hand.choose("Save Family File As", named);
+    hand.answer(file + " already exists.\nDo you want to replace it?", QMessageBox::No);
+    Press(window(), "mnuSaveAs");
+    hand.at("fileDialog/Open Existing Family File", [&](QWidget& dialog) {
+        auto& box = Find<QLineEdit>(dialog, "fileNameEdit");
+        box.setText(world.path("Aunt \"Family\""));
+        hand.answer(world.path("Aunt \"Family\" was not found."));
+        QMetaObject::invokeMethod(&dialog, "accept");
+        EXPECT_TRUE(dialog.isVisible());
+        box.setText(file);
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    Press(window(), "mnuOpen");
+    EXPECT_EQ(window().windowTitle(), "Stemwright - " + file);
+    EXPECT_FALSE(QFile::exists("Emmy.kvf"));
 }
 
 TEST_F(BrowsingTest, SplashAndProgressLetTheUserInOnlyWhereTheyMay)

@@ -14,6 +14,7 @@
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMenuBar>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
 
@@ -102,6 +103,24 @@ void ClickHeader(QWidget& window, const char* name, int section)
 {
     QHeaderView& header = *Find<QTableView>(window, name).horizontalHeader();
     QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, {header.sectionViewportPosition(section) + 8, 5});
+}
+
+QStringList AccessKeys(const QWidget& window)
+{
+    QStringList keys;
+    const auto note = [&keys](const QString& text) {
+        const QString key = QKeySequence::mnemonic(text).toString();
+        key.isEmpty() ? void() : keys.append(key);
+    };
+    for (const QMenuBar* bar : window.findChildren<QMenuBar*>()) {
+        for (const QAction* menu : bar->actions()) {
+            note(menu->text());
+        }
+    }
+    for (const QWidget* control : window.findChildren<QWidget*>()) {
+        note(control->isVisible() ? control->property("text").toString() : QString());
+    }
+    return keys;
 }
 
 bool Await(const std::function<bool()>& condition)

@@ -41,6 +41,9 @@ int CurrentRow(QWidget& window, const char* name);
 /// Clicks the caption of a column.
 void ClickHeader(QWidget& window, const char* name, int section);
 
+/// The letters that are pressed with Alt for the menus and controls of a window that are in sight.
+QStringList AccessKeys(const QWidget& window);
+
 /// Lets the event loop run until something is so. QTest::qWaitFor sleeps between its looks, and a browser, whose work
 /// comes in many small pieces, with it. False when it takes too long.
 bool Await(const std::function<bool()>& condition);

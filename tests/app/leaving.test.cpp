@@ -76,6 +76,11 @@ TEST_F(LeavingTest, WhatChangesTheListWaitsForTheRecord)
     for (const char* name : {"cboQuery", "dtgTOC"}) {
         EXPECT_FALSE(Find<QWidget>(window(), name).isEnabled()) << name;
     }
+    EXPECT_FALSE(leaves([this] { key(Qt::Key_Escape); }, QMessageBox::Cancel));
+    EXPECT_TRUE(leaves([this] { key(Qt::Key_Escape); }, QMessageBox::No));
+    change("Changed");
+    QStringList keys = AccessKeys(window());
+    EXPECT_EQ(keys.removeDuplicates(), 1) << "Show and Hide Pointer take turns";
     EXPECT_TRUE(leaves([this] { Find<QMenu>(window(), "mnuRecent").actions().first()->trigger(); }, QMessageBox::Yes));
     EXPECT_EQ(stored("SELECT Title FROM AlbumTOC WHERE PicId = 1"), QStringList("Changed"));
 }

@@ -1,8 +1,12 @@
 // SPDX-FileCopyrightText: The Stemwright authors
 // SPDX-License-Identifier: MIT
 #include "app/appworld.h"
+#include "app/common/controls.h"
 #include "base/files.h"
 
+#include <QtGui/QScreen>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -125,6 +129,28 @@ TEST_F(WindowsTest, QueriesAreMadeRenamedDeletedAndRun)
     EXPECT_EQ(position(), "Picture 2 of 3");
 }
 
+TEST_F(WindowsTest, WindowsFitTheScreenWithLargeLettersToo)
+{
+    QWidget high;
+    ResizeForLetters(high, 9000, 9000);
+    PlaceOnScreen(high);
+    EXPECT_EQ(high.pos(), high.screen()->availableGeometry().topLeft()) << "the title bar goes above it";
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(usual.pointSizeF() * 1.5);
+    start(familyFile());
+    QApplication::setFont(large);
+    pressOn("mnuQueries", "frmQueries", [&](QWidget& list) {
+        hand.at("frmEditQuery", [](QWidget& editor) {
+            EXPECT_EQ(editor.size().boundedTo(editor.screen()->availableSize()), editor.size());
+            Press(editor, "cmdClose");
+        });
+        Press(list, "cmdEdit");
+        Press(list, "cmdClose");
+    });
+    QApplication::setFont(usual);
+}
+
 TEST_F(WindowsTest, ThePeoplePickerFindsAndSorts)
 {
     start(familyFile());
@@ -137,6 +163,13 @@ TEST_F(WindowsTest, ThePeoplePickerFindsAndSorts)
         EXPECT_EQ(row(), 2);
         Type(picker, "txtName", "Root, Ax");
         EXPECT_EQ(row(), 1);
+        auto& nobody = Find<QWidget>(picker, "lblNobody");
+        auto& ok = Find<QWidget>(picker, "cmdOK");
+        EXPECT_TRUE(nobody.isVisible() && !ok.isEnabled()) << "Abel is not who was typed";
+        auto& grid = Find<QAbstractItemView>(picker, "dtgPeople");
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.currentIndex()).center());
+        EXPECT_TRUE(!nobody.isVisible() && ok.isEnabled());
+        EXPECT_EQ(text(picker, "txtName"), "Root,  Abel ");
         EXPECT_FALSE(Find<QWidget>(picker, "cmdNext").isEnabled());
         hand.enter("Find Name", "A");
         Press(picker, "cmdFind");

@@ -84,11 +84,15 @@ public:
     }
 };
 
-/// The part of the screen that a window may take, without what the system draws around it.
-QRect RoomFor(const QWidget& window)
+int TitleHeight(const QWidget& window)
 {
-    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
-    return window.screen()->availableGeometry().adjusted(0, title, 0, 0);
+    return window.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &window);
+}
+
+/// The size that a window may have at most, without what the system draws around it.
+QSize RoomFor(const QWidget& window)
+{
+    return window.screen()->availableSize() - QSize(0, TitleHeight(window));
 }
 
 void CopySelectedRows(const QAbstractItemView& view)
@@ -202,7 +206,7 @@ int ForLetters(const QWidget& window, int pixels)
 
 void ResizeForLetters(QWidget& window, int width, int height)
 {
-    window.resize(QSize(ForLetters(window, width), ForLetters(window, height)).boundedTo(RoomFor(window).size()));
+    window.resize(QSize(ForLetters(window, width), ForLetters(window, height)).boundedTo(RoomFor(window)));
 }
 
 void LetWheelPass(QWidget& control)
@@ -219,8 +223,9 @@ void LetCopy(QAbstractItemView& view)
 
 void PlaceOnScreen(QWidget& window)
 {
-    QRect place(QPoint(), window.size());
-    place.moveCenter(RoomFor(window).center());
+    // What moves is the window with its title bar.
+    QRect place(QPoint(), window.size() + QSize(0, TitleHeight(window)));
+    place.moveCenter(window.screen()->availableGeometry().center());
     window.move(place.topLeft());
 }
 
@@ -228,7 +233,7 @@ void RememberPlace(QWidget& window, Settings& settings)
 {
     window.restoreGeometry(QByteArray::fromBase64(settings.value(setting::windows, window.objectName()).toLatin1()));
     // It may have been another screen.
-    const QSize room = RoomFor(window).size();
+    const QSize room = RoomFor(window);
     if (!window.isMaximized() && window.size().boundedTo(room) != window.size()) {
         window.resize(window.size().boundedTo(room));
     }

@@ -3,6 +3,7 @@
 #include "app/common/dialogtalk.h"
 
 #include "app/common/controls.h"
+#include "app/common/messages.h"
 #include "app/common/progresswindow.h"
 
 #include <QtCore/QDir>
@@ -11,6 +12,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 
 namespace stemwright
@@ -21,6 +23,7 @@ namespace
 
 constexpr int longestInput = 10'000;
 constexpr int inputWidth = 360;
+const QString nameBox = QStringLiteral("fileNameEdit");
 
 QMessageBox::Icon BoxIcon(Icon icon)
 {
@@ -112,6 +115,50 @@ QString ExtensionOf(const QString& filter)
     return extension == QStringLiteral("*") ? QString() : extension;
 }
 
+/// Takes what is typed for the name of one file. Qt would take double quotes in it for the bounds of several, and drop
+/// what stands outside of them. Without its own meta-object, so that it can still be the system's dialog.
+class FileDialog : public QFileDialog
+{
+public:
+    FileDialog(const FileRequest& request, const QString& folder) : QFileDialog(FrontWindow(), request.title, folder) {}
+
+    void accept() override
+    {
+        const std::optional<QFileInfo> quoted = quotedFile();
+        if (!quoted) {
+            QFileDialog::accept();
+        } else if (quoted->isDir() && fileMode() != Directory) {
+            setDirectory(quoted->filePath());
+            findChild<QLineEdit*>(nameBox)->clear();
+        } else if (acceptMode() == AcceptOpen && !(fileMode() == Directory ? quoted->isDir() : quoted->isFile())) {
+            MakeBox(appmessages::NotThere(quoted->absoluteFilePath()))->exec();
+        } else {
+            QDialog::accept();
+        }
+    }
+
+    QString chosen() const
+    {
+        const std::optional<QFileInfo> quoted = quotedFile();
+        return quoted ? quoted->absoluteFilePath() : QFileInfo(selectedFiles().value(0)).absoluteFilePath();
+    }
+
+private:
+    /// The file whose name was typed, or taken from the list, with a double quote in it.
+    std::optional<QFileInfo> quotedFile() const
+    {
+        const auto* box = findChild<QLineEdit*>(nameBox);
+        if (box == nullptr || !box->text().contains(u'"')) {
+            return std::nullopt;
+        }
+        QFileInfo file(directory(), box->text());
+        if (!defaultSuffix().isEmpty() && !file.isDir() && !file.fileName().contains(u'.')) {
+            file.setFile(file.filePath() + u'.' + defaultSuffix());
+        }
+        return file;
+    }
+};
+
 } // namespace
 
 QWidget* FrontWindow()
@@ -177,7 +224,7 @@ QString DialogTalk::firstFolder(const FileRequest& request) const
 
 std::optional<QString> DialogTalk::chooseFile(const FileRequest& request)
 {
-    QFileDialog dialog(FrontWindow(), request.title, firstFolder(request));
+    FileDialog dialog(request, firstFolder(request));
     dialog.setObjectName(QStringLiteral("fileDialog"));
     if (request.purpose == FilePurpose::Folder) {
         dialog.setFileMode(QFileDialog::Directory);
@@ -199,10 +246,7 @@ std::optional<QString> DialogTalk::chooseFile(const FileRequest& request)
     } else if (request.purpose == FilePurpose::Open) {
         dialog.setFileMode(QFileDialog::ExistingFile);
     }
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return std::nullopt;
-    }
-    return QFileInfo(dialog.selectedFiles().constFirst()).absoluteFilePath();
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.chosen()) : std::nullopt;
 }
 
 std::unique_ptr<Progress> DialogTalk::progress(const QString& title, const QString& caption)

@@ -4,6 +4,8 @@
 
 #include "base/version.h"
 
+#include <QtCore/QDir>
+
 namespace stemwright::appmessages
 {
 
@@ -78,6 +80,11 @@ Message CannotDelete(const QString& reason)
 Message Failed(const QString& reason)
 {
     return {{}, reason, Icon::Critical};
+}
+
+Message NotThere(const QString& path)
+{
+    return {{}, QStringLiteral("%1 was not found.").arg(QDir::toNativeSeparators(path)), Icon::Warning};
 }
 
 Message DropOnePicture()

@@ -29,6 +29,8 @@ Message CannotDelete(const QString& reason);
 /// Something went wrong that no procedure has told.
 Message Failed(const QString& reason);
 
+/// The file or folder that was typed to be opened does not exist.
+Message NotThere(const QString& path);
 /// What was dropped onto the window is no single picture file.
 Message DropOnePicture();
 /// Beside the name that is matched: the number of it among all, and on how many pictures it stands.

@@ -3,6 +3,8 @@
 #include "app/common/namelistpanel.h"
 
 #include "app/common/controls.h"
+#include "app/common/notice.h"
+#include "index/messages.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QApplication>
@@ -68,7 +70,7 @@ NameListPanel::NameListPanel(NameIndex& index, const char* gridName, std::vector
     : m_index(index), m_talk(talk), m_search(index), m_columns(columns),
       m_model(new NameListModel(index, std::move(columns), this)),
       m_grid(MakeGrid(gridName, QStringLiteral("Index of names"), *m_model)), txtName(MakeLine("txtName")),
-      cmdFind(MakeButton("cmdFind", QStringLiteral("&Find..."))),
+      m_nobody(new Notice(QStringLiteral("lblNobody"))), cmdFind(MakeButton("cmdFind", QStringLiteral("&Find..."))),
       cmdNext(MakeButton("cmdNext", QStringLiteral("Ne&xt"))),
       cmdPrevious(MakeButton("cmdPrevious", QStringLiteral("&Previous")))
 {
@@ -87,6 +89,7 @@ NameListPanel::NameListPanel(NameIndex& index, const char* gridName, std::vector
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(search);
+    layout->addWidget(m_nobody);
     layout->addWidget(m_grid, 1);
     connectControls(clicks);
     showCurrent();
@@ -98,6 +101,8 @@ void NameListPanel::connectControls(HeaderClicks clicks)
 {
     connect(txtName, &QLineEdit::textChanged, this, &NameListPanel::textTyped);
     connect(m_grid->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &NameListPanel::rowChanged);
+    // A click on the current row chooses it, too.
+    connect(m_grid, &QTableView::clicked, this, &NameListPanel::rowChanged);
     connect(m_grid, &QTableView::activated, this, &NameListPanel::activated);
     connect(cmdFind, &QPushButton::clicked, this, [this] { run(&NameSearch::find); });
     connect(cmdNext, &QPushButton::clicked, this, [this] { run(&NameSearch::findNext); });
@@ -108,6 +113,11 @@ void NameListPanel::connectControls(HeaderClicks clicks)
     } else {
         m_grid->horizontalHeader()->setSectionsClickable(false);
     }
+}
+
+void NameListPanel::needsPerson(QPushButton& button)
+{
+    connect(this, &NameListPanel::fitsChanged, &button, &QPushButton::setEnabled);
 }
 
 void NameListPanel::textTyped(const QString& text)
@@ -127,6 +137,7 @@ void NameListPanel::rowChanged(const QModelIndex& current)
     m_search.goTo(m_index.rowAt(static_cast<std::size_t>(current.row())));
     const QScopedValueRollback following(m_following, true);
     txtName->setText(m_search.text());
+    showFit();
 }
 
 void NameListPanel::run(bool (NameSearch::*procedure)(Talk&))
@@ -161,7 +172,14 @@ void NameListPanel::showCurrent()
     const bool inSight = m_grid->viewport()->rect().contains(m_grid->visualRect(index));
     m_grid->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     m_grid->scrollTo(index, inSight ? QAbstractItemView::EnsureVisible : QAbstractItemView::PositionAtCenter);
+    showFit();
     setButtons();
+}
+
+void NameListPanel::showFit()
+{
+    m_nobody->setText(m_search.fits() ? QString() : indexmessages::NobodyBeginsSo());
+    Q_EMIT fitsChanged(m_search.fits());
 }
 
 void NameListPanel::setButtons()

@@ -17,6 +17,8 @@ class QTableView;
 namespace stemwright
 {
 
+class Notice;
+
 /// A column of the list and its caption.
 struct NameListColumn {
     NameColumn column;
@@ -56,9 +58,14 @@ public:
 
     const NameSearch& search() const { return m_search; }
 
+    /// Disables a button that acts on the current person while what is typed fits nobody: it would act on the last one
+    /// who was current.
+    void needsPerson(QPushButton& button);
+
 Q_SIGNALS:
     /// A person was double-clicked, or Return pressed on him.
     void activated();
+    void fitsChanged(bool fits);
 
 private:
     void connectControls(HeaderClicks clicks);
@@ -68,6 +75,7 @@ private:
     /// Runs a search and shows where it led.
     void run(bool (NameSearch::*procedure)(Talk&));
     void showCurrent();
+    void showFit();
     void setButtons();
 
     NameIndex& m_index;
@@ -77,6 +85,7 @@ private:
     NameListModel* m_model;
     QTableView* m_grid;
     QLineEdit* txtName;
+    Notice* m_nobody;
     QPushButton* cmdFind;
     QPushButton* cmdNext;
     QPushButton* cmdPrevious;

@@ -29,6 +29,7 @@ void ShowListOfNames(NameIndex& index, Connection& connection, Environment& envi
     buttons->button(QDialogButtonBox::Close)->setObjectName(QStringLiteral("cmdClose"));
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     buttons->addButton(contact, QDialogButtonBox::ActionRole);
+    names->needsPerson(*contact);
     const auto showContact = [&] { EditContact(connection, names->search().chosen().id, environment, &window); };
     QObject::connect(contact, &QPushButton::clicked, &window, showContact);
     QObject::connect(names, &NameListPanel::activated, &window, showContact);

@@ -25,6 +25,7 @@ std::optional<ChosenPerson> ChoosePerson(NameIndex& index, Environment& environm
                                      {NameColumn::DeathDate, QStringLiteral("Death Date")}},
                                     HeaderClicks::Sort, environment.talk);
     QDialogButtonBox* buttons = MakeOkCancel(window);
+    names->needsPerson(*buttons->button(QDialogButtonBox::Ok));
     QObject::connect(names, &NameListPanel::activated, &window, &QDialog::accept);
     auto* layout = new QVBoxLayout(&window);
     layout->addWidget(names);

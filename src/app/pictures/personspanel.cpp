@@ -23,14 +23,14 @@ namespace stemwright
 PersonsPanel::PersonsPanel(PictureView& view, Environment& environment, QWidget* parent)
     : QWidget(parent), m_view(view), m_environment(environment),
       fraPointerTool(new QGroupBox(QStringLiteral("Pointer Tool"))),
-      optRectangle(MakeOption("optRectangle", QStringLiteral("&Rectangle"))),
+      optRectangle(MakeOption("optRectangle", QStringLiteral("Rectan&gle"))),
       optArrow(MakeOption("optArrow", QStringLiteral("Arr&ow"))), hfgPersons(new QListWidget),
       lblHint(MakeLabel("lblHint")), txtName(MakeLine("txtName", QStringLiteral("Name of a person in the picture"))),
       cmdShowIndex(MakeButton("cmdShowIndex", QStringLiteral("Inde&x..."), QStringLiteral("Display index of names"))),
-      cmdShowPointer(MakeButton("cmdShowPointer", QStringLiteral("Show Poi&nter"))),
-      cmdHidePointer(MakeButton("cmdHidePointer", QStringLiteral("Hide Poi&nter"))),
+      cmdShowPointer(MakeButton("cmdShowPointer", QStringLiteral("Show Pointe&r"))),
+      cmdHidePointer(MakeButton("cmdHidePointer", QStringLiteral("Hide Pointe&r"))),
       cmdOKName(MakeButton("cmdOKName", QStringLiteral("O&K Add/Edit"))),
-      cmdCancelName(MakeButton("cmdCancelName", QStringLiteral("&Cancel Add/Edit"))),
+      cmdCancelName(MakeButton("cmdCancelName", QStringLiteral("Ca&ncel Add/Edit"))),
       cmdEditName(MakeButton("cmdEditName", QStringLiteral("Ed&it"), QStringLiteral("Edit the selected name"))),
       cmdRemove(
           MakeButton("cmdRemove", QStringLiteral("Re&move"), QStringLiteral("Remove the selected name from the list"))),

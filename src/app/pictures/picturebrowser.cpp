@@ -91,6 +91,10 @@ PictureBrowser::PictureBrowser(QWidget* parent)
                 }
             });
     connect(dtgTOC->horizontalHeader(), &QHeaderView::sectionClicked, this, &PictureBrowser::sortBy);
+    connect(dtgTOC->horizontalHeader(), &QHeaderView::sectionResized, this, [this](int section) {
+        // The last column takes what the window leaves.
+        m_widthsSet = m_widthsSet || (!m_moving && section < m_model->columnCount() - 1);
+    });
     connect(dtgTOC, &QTableView::activated, this, &PictureBrowser::activated);
     connect(picTGallery, &QListView::activated, this, &PictureBrowser::activated);
 }
@@ -123,10 +127,10 @@ void PictureBrowser::setList(std::optional<PictureTable> table, FamilyFile& file
 {
     {
         const QScopedValueRollback moving(m_moving, true);
-        // Widths that the user has set stay as long as the columns are the same.
         const int columns = m_model->columnCount();
         m_model->setTable(std::move(table), file);
-        if (m_model->columnCount() != columns) {
+        m_widthsSet = m_widthsSet && m_model->columnCount() == columns;
+        if (!m_widthsSet) {
             dtgTOC->resizeColumnsToContents();
         }
         const int row = wanted ? m_model->rowOf(*wanted) : 0;

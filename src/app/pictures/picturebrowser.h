@@ -64,6 +64,8 @@ private:
     QListView* picTGallery;
     QStackedLayout* m_views;
     bool m_moving = false;
+    /// Whether the user has set widths, which stay as long as the columns are the same.
+    bool m_widthsSet = false;
 };
 
 } // namespace stemwright

@@ -60,7 +60,7 @@ RecordEditor::RecordEditor(Environment& environment, QWidget* parent)
       m_persons(new PersonsPanel(*m_view, environment, this)),
       cmdApply(
           MakeButton("cmdApply", QStringLiteral("Appl&y"), QStringLiteral("Write new/modified record to the album"))),
-      cmdCancel(MakeButton("cmdCancel", QStringLiteral("Cancel"), QStringLiteral("Discard the changes")))
+      cmdCancel(MakeButton("cmdCancel", QStringLiteral("&Cancel"), QStringLiteral("Discard the changes")))
 {
     auto* record = new QWidget;
     auto* recordLayout = new QVBoxLayout(record);

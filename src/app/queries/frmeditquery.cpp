@@ -30,6 +30,19 @@ QString ControlName(const char* kind, const QString& column)
     return QLatin1StringView(kind) + column;
 }
 
+constexpr int usualLetters = 24;
+
+/// A field that is as long as its usual content, and shorter where the screen is too narrow for that.
+QLineEdit* Field(const QString& column)
+{
+    QLineEdit* line = MakeLine("");
+    line->setObjectName(ControlName("txt", column));
+    line->setAccessibleName(column);
+    line->setMaximumWidth(line->fontMetrics().averageCharWidth() * usualLetters);
+    line->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    return line;
+}
+
 /// Controls side by side, as wide as they need to be.
 QHBoxLayout* Row(std::initializer_list<QWidget*> controls)
 {
@@ -47,6 +60,7 @@ public:
     {
         setObjectName(QStringLiteral("frmEditQuery"));
         setWindowTitle(QStringLiteral("Edit Query - ") + name);
+        ResizeForLetters(*this, 640, 380);
         layOut();
         showQuery();
         RememberPlace(*this, environment.settings);
@@ -81,6 +95,9 @@ private:
         const int row = addGroup(*grid, QStringLiteral("Person in the Picture"));
         grid->addWidget(yesNo(personGroup + QStringLiteral("Filter"), {}), row, 2, Qt::AlignHCenter);
         grid->addLayout(personCriteria(), row, 3);
+        grid->addLayout(Row({yesNo(QStringLiteral("WithAncs"), QStringLiteral("Ancestors")),
+                             yesNo(QStringLiteral("WithDescs"), QStringLiteral("Descendants"))}),
+                        row + 1, 3);
         grid->setColumnStretch(3, 1);
 
         auto* buttons = new QHBoxLayout;
@@ -136,12 +153,13 @@ private:
 
     QHBoxLayout* personCriteria()
     {
-        lblPerson->setMinimumWidth(lblPerson->fontMetrics().averageCharWidth() * 36);
+        // A long name is cut short rather than pushing the buttons out of sight; its tip has all of it.
+        lblPerson->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        lblPerson->setMinimumWidth(lblPerson->fontMetrics().averageCharWidth() * usualLetters);
         lblPerson->setFrameShape(QFrame::StyledPanel);
         QPushButton* index = MakeButton("cmdIndex", QStringLiteral("&Index..."));
         connect(index, &QPushButton::clicked, this, &frmEditQuery::choosePerson);
-        QHBoxLayout* row = Row({lblPerson, index, yesNo(QStringLiteral("WithAncs"), QStringLiteral("Ancestors")),
-                                yesNo(QStringLiteral("WithDescs"), QStringLiteral("Descendants"))});
+        QHBoxLayout* row = Row({lblPerson, index});
         row->setStretchFactor(lblPerson, 1);
         return row;
     }
@@ -159,10 +177,7 @@ private:
 
     QLineEdit* line(const QString& column)
     {
-        QLineEdit* line = MakeLine("");
-        line->setObjectName(ControlName("txt", column));
-        line->setAccessibleName(column);
-        line->setMinimumWidth(line->fontMetrics().averageCharWidth() * 24);
+        QLineEdit* line = Field(column);
         connect(line, &QLineEdit::editingFinished, this, [this, line, column] {
             // A field that is only left has not been changed.
             if (line->isModified()) {
@@ -198,7 +213,7 @@ private:
         box->setAccessibleName(column);
         box->setEditable(true);
         box->setInsertPolicy(QComboBox::NoInsert);
-        box->setMinimumContentsLength(24);
+        box->setMinimumContentsLength(usualLetters);
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         box->addItems(m_editing.places());
         const auto take = [this, box, column] {
@@ -235,6 +250,7 @@ private:
             show();
         }
         lblPerson->setText(m_editing.personName());
+        lblPerson->setToolTip(m_editing.personName().toHtmlEscaped());
         cmdSave->setEnabled(m_editing.edited());
     }
 
