@@ -22,15 +22,6 @@ FamilyFile& CommandLine::open(const std::string& path)
     return m_file;
 }
 
-void CommandLine::printReport(const QString& text, const QByteArray& json)
-{
-    if (m_options.format == OutputFormat::Json) {
-        m_out << QString::fromUtf8(json);
-    } else if (!m_options.quiet) {
-        m_out << text;
-    }
-}
-
 bool CommandLine::canAsk() const
 {
     return m_options.answers == Answers::Ask && ::isatty(STDIN_FILENO) != 0;

@@ -46,7 +46,16 @@ public:
     QTextStream& out() { return m_out; }
 
     /// Prints the report of an import: the one for programs (--json), or the one for readers unless they want quiet.
-    void printReport(const QString& text, const QByteArray& json);
+    /// Only what is printed is composed, by the report's ReportJson() and ReportText().
+    template <class Report>
+    void printReport(const Report& report)
+    {
+        if (m_options.format == OutputFormat::Json) {
+            m_out << QString::fromUtf8(ReportJson(report));
+        } else if (!m_options.quiet) {
+            m_out << ReportText(report);
+        }
+    }
 
     /// Opens a family file for the rest of the command. Throws AlreadyReported when it cannot be opened.
     FamilyFile& open(const std::string& path);

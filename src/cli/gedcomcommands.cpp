@@ -15,7 +15,7 @@ void Import(CommandLine& line, const QString& path)
     ImportReport report;
     const bool ranToItsEnd = ImportGedcomFile(line.file(), path, line.environment(), report);
     if (report.outcome != ImportOutcome::Failed) {
-        line.printReport(ReportText(report), ReportJson(report));
+        line.printReport(report);
     }
     Require(ranToItsEnd);
 }

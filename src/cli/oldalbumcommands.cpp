@@ -22,7 +22,7 @@ void Import(CommandLine& line, const QString& path)
     AlbumImportReport report;
     const bool ranToItsEnd = ImportPreV2Album(line.file(), path, line.environment(), report);
     if (report.outcome == AlbumImportOutcome::Completed || report.outcome == AlbumImportOutcome::Stopped) {
-        line.printReport(ReportText(report), ReportJson(report));
+        line.printReport(report);
     }
     Require(ranToItsEnd);
 }

@@ -18,11 +18,17 @@ namespace stemwright
 namespace
 {
 
-/// Only opening the collator can fail, which was done before the engine knew of this.
+/// The engine is written in C, through which no exception can pass. Only the first comparison can fail, and all others
+/// with it, where the rule's data are missing; then there is no order but that of the bytes.
 int Compare(void*, int firstSize, const void* first, int secondSize, const void* second) noexcept
 {
-    return CompareTexts(std::string_view(static_cast<const char*>(first), static_cast<std::size_t>(firstSize)),
-                        std::string_view(static_cast<const char*>(second), static_cast<std::size_t>(secondSize)));
+    const std::string_view left(static_cast<const char*>(first), static_cast<std::size_t>(firstSize));
+    const std::string_view right(static_cast<const char*>(second), static_cast<std::size_t>(secondSize));
+    try {
+        return CompareTexts(left, right);
+    } catch (const std::exception&) {
+        return left.compare(right);
+    }
 }
 
 QString TextOf(sqlite3_value* value)
@@ -43,7 +49,6 @@ void Match(sqlite3_context* context, sqlite3_value* patternText, sqlite3_value* 
     }
 }
 
-/// The engine is written in C, through which no exception can pass.
 void Like(sqlite3_context* context, int, sqlite3_value** arguments) noexcept
 {
     if (sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL) {
@@ -63,8 +68,6 @@ void Like(sqlite3_context* context, int, sqlite3_value** arguments) noexcept
 
 void AddTextFunctions(sqlite3* database)
 {
-    // The first comparison of all opens the collator.
-    CompareTexts(std::string_view(), std::string_view());
     const QByteArray collation = namesCollation.toUtf8();
     const QByteArray like = likeFunction.toUtf8();
     int result = sqlite3_create_collation(database, collation.constData(), SQLITE_UTF8, nullptr, Compare);
