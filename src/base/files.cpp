@@ -41,6 +41,12 @@ public:
     {
     }
 
+    /// A file in a folder that is open.
+    Descriptor(int folder, const std::string& name, int flags)
+        : m_descriptor(::openat(folder, name.c_str(), flags | O_CLOEXEC, 0666))
+    {
+    }
+
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
 
@@ -123,17 +129,18 @@ QString BeginningOfUnfinished(const QFileInfo& target)
                : QString::fromLatin1(QCryptographicHash::hash(name, QCryptographicHash::Sha1).toHex());
 }
 
-/// Opens the file with these flags and writes the content; a file that could not be written whole is removed.
-void WriteOut(const QString& path, int flags, const QByteArray& content)
+/// Writes the content to the file that was opened for it, which `path` tells the path of when it is asked; a file that
+/// could not be written whole is removed.
+template <typename PathOf>
+void WriteOut(Descriptor descriptor, const QByteArray& content, const PathOf& path)
 {
-    Descriptor descriptor(path, O_WRONLY | flags);
     if (!descriptor.isOpen()) {
-        FailToWrite(path, ReasonOf(errno));
+        FailToWrite(path(), ReasonOf(errno));
     }
     if (!WriteAll(descriptor, content) || !descriptor.close()) {
         const int error = errno;
-        DiscardFile(path);
-        FailToWrite(path, ReasonOf(error));
+        DiscardFile(path());
+        FailToWrite(path(), ReasonOf(error));
     }
 }
 
@@ -177,12 +184,41 @@ QByteArray ReadWholeFile(const QString& path)
 
 void WriteWholeFile(const QString& path, const QByteArray& content)
 {
-    WriteOut(path, O_CREAT | O_TRUNC, content);
+    WriteOut(Descriptor(path, O_WRONLY | O_CREAT | O_TRUNC), content, [&path] { return path; });
 }
 
 void AppendToFile(const QString& path, const QByteArray& content)
 {
-    WriteOut(path, O_APPEND, content);
+    WriteOut(Descriptor(path, O_WRONLY | O_APPEND), content, [&path] { return path; });
+}
+
+OpenFolder::OpenFolder(const QString& path)
+    : m_path(path), m_descriptor(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+{
+    if (m_descriptor < 0) {
+        FailToRead(path, ReasonOf(errno));
+    }
+}
+
+OpenFolder::~OpenFolder()
+{
+    ::close(m_descriptor);
+}
+
+void OpenFolder::writeWholeFile(const std::string& name, const QByteArray& content) const
+{
+    writeOut(name, O_CREAT | O_TRUNC, content);
+}
+
+void OpenFolder::appendToFile(const std::string& name, const QByteArray& content) const
+{
+    writeOut(name, O_APPEND, content);
+}
+
+void OpenFolder::writeOut(const std::string& name, int flags, const QByteArray& content) const
+{
+    WriteOut(Descriptor(m_descriptor, name, O_WRONLY | flags), content,
+             [this, &name] { return m_path + u'/' + QString::fromStdString(name); });
 }
 
 void FailToRead(const QString& path, const QString& reason)

@@ -7,6 +7,7 @@
 #include <QtCore/QString>
 
 #include <optional>
+#include <string>
 
 /// Files as wholes: reading, writing, and putting a finished file in its place in one step. Failures come as Error with
 /// the path and the system's reason. Stands on nothing but the error type.
@@ -26,6 +27,29 @@ void WriteWholeFile(const QString& path, const QByteArray& content);
 
 /// Appends to a file that WriteWholeFile() has begun; fails in the same way.
 void AppendToFile(const QString& path, const QByteArray& content);
+
+/// A folder that stays open while many files are written into it, none of which has its path looked up anew.
+class OpenFolder
+{
+public:
+    /// Throws Error when the folder cannot be opened.
+    explicit OpenFolder(const QString& path);
+
+    OpenFolder(const OpenFolder&) = delete;
+    OpenFolder& operator=(const OpenFolder&) = delete;
+
+    ~OpenFolder();
+
+    /// As the procedures above, for a file of the folder by its name (UTF-8).
+    void writeWholeFile(const std::string& name, const QByteArray& content) const;
+    void appendToFile(const std::string& name, const QByteArray& content) const;
+
+private:
+    void writeOut(const std::string& name, int flags, const QByteArray& content) const;
+
+    QString m_path;
+    int m_descriptor;
+};
 
 /// The Errors of these procedures, for whoever reads or writes a file piece by piece.
 [[noreturn]] void FailToRead(const QString& path, const QString& reason);

@@ -154,6 +154,7 @@ private:
         RequireTemplates(m_setup->pageStyle, m_environment.application);
         m_site = webmessages::StoppedSite::Begun;
         EmptyOutputFolder(m_folder);
+        m_run->pages = std::make_unique<OpenFolder>(m_folder.path);
         m_newTables.emplace(m_connection);
         MakeWorkTables(m_connection);
         m_beside = std::async(std::launch::async, [this] {

@@ -43,7 +43,7 @@ void AppendRow(PageFile& file, const SiteRun& run, const PublishedTree& tree)
 void WriteTreeList(const SiteRun& run)
 {
     PageFile file;
-    file.begin(run.file("TreeList.html"));
+    file.begin(*run.pages, "TreeList.html");
     file.bytes().append(FillTemplate(ReadTemplate(run.application.file(QStringLiteral("html/treelisttop.html"))), {}));
     for (const PublishedTree& tree : run.trees) {
         AppendRow(file, run, tree);

@@ -178,6 +178,16 @@ int open(const char* path, int flags, ...)
     return Changes(flags) && IsRefused(path) ? -1 : REAL(open)(path, flags, mode);
 }
 
+int openat(int folder, const char* path, int flags, ...)
+{
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = va_arg(rest, mode_t);
+    va_end(rest);
+    const std::string full = *path == '/' || folder == AT_FDCWD ? path : PathOf(folder) + '/' + path;
+    return Changes(flags) && IsRefused(full.c_str()) ? -1 : REAL(openat)(folder, path, flags, mode);
+}
+
 int open64(const char* path, int flags, ...)
 {
     va_list rest;

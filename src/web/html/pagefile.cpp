@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "web/html/pagefile.h"
 
-#include "base/files.h"
-
 namespace stemwright
 {
 
-void PageFile::begin(const QString& path)
+void PageFile::begin(const OpenFolder& folder, std::string name)
 {
-    m_path = path;
+    m_folder = &folder;
+    m_name = std::move(name);
     m_bytes.clear();
     m_started = false;
 }
@@ -25,9 +24,9 @@ void PageFile::flush()
 {
     const QByteArray content = QByteArray::fromRawData(m_bytes.data(), static_cast<qsizetype>(m_bytes.size()));
     if (m_started) {
-        AppendToFile(m_path, content);
+        m_folder->appendToFile(m_name, content);
     } else {
-        WriteWholeFile(m_path, content);
+        m_folder->writeWholeFile(m_name, content);
     }
     m_started = true;
     m_bytes.clear();

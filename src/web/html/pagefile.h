@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QtCore/QString>
+#include "base/files.h"
 
 #include <string>
 #include <string_view>
@@ -17,7 +17,8 @@ class PageFile
 {
 public:
     /// Begins a page; the buffer of the one before is used again.
-    void begin(const QString& path);
+    /// `folder` must outlive it.
+    void begin(const OpenFolder& folder, std::string name);
 
     /// The page's bytes, to be appended to.
     std::string& bytes() { return m_bytes; }
@@ -43,7 +44,8 @@ private:
 
     void flush();
 
-    QString m_path;
+    const OpenFolder* m_folder = nullptr;
+    std::string m_name;
     std::string m_bytes;
     bool m_started = false;
 };

@@ -85,7 +85,7 @@ class IndexWriter
 public:
     explicit IndexWriter(const SiteRun& run) : m_run(run)
     {
-        m_index.begin(run.file("NameIndex.html"));
+        m_index.begin(*run.pages, "NameIndex.html");
         page().append(FillTemplate(ReadTemplate(run.application.file(QStringLiteral("html/nameindextop.html"))), {}));
     }
 

@@ -151,7 +151,7 @@ std::string PersonalPageTop(const ApplicationFolder& application)
 
 void WritePersonalPage(const SiteRun& run, const std::string& top, PageFile& file, TreePosition person)
 {
-    file.begin(run.file(PersonalPageName(run.tree.individualId(person))));
+    file.begin(*run.pages, PersonalPageName(run.tree.individualId(person)));
     file.bytes().append(top);
     PersonalPage(run, file, person).write();
     WritePartnerships(run, file, person);

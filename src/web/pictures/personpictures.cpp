@@ -30,7 +30,7 @@ void WritePersonPictures(const SiteRun& run, GalleryWriter& galleries, const std
         const int id = run.tree.individualId(person);
         std::string name;
         AppendScriptText(name, run.names.displayName(person), ScriptQuotes::Concatenated);
-        file.begin(run.file(PictureListName(id)));
+        file.begin(*run.pages, PictureListName(id));
         top.append(file.bytes(), {name, std::to_string(id)});
         for (const std::uint32_t picture : pictures) {
             WritePictureRow(file, run.pictures.all()[picture], rowTags);

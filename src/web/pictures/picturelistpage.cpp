@@ -36,7 +36,7 @@ void WritePictureRow(PageFile& file, const PublishedPicture& picture, const Pict
 
 PictureListPage::PictureListPage(const SiteRun& run)
 {
-    m_file.begin(run.file("ListOfPics.html"));
+    m_file.begin(*run.pages, "ListOfPics.html");
     m_file.bytes().append(FillTemplate(ReadTemplate(run.application.file(QStringLiteral("html/piclisttop.html"))), {}));
 }
 

@@ -79,7 +79,7 @@ bool PicturePageWriter::write(const PublishedPicture& picture, const PictureFile
     const std::string title = Html(picture.title.empty() ? "<No title>" : std::string_view(picture.title));
     const bool isRectangle = files.pointer == PointerTool::Rectangle;
 
-    m_file.begin(m_run.file(PicturePageName(picture.id)));
+    m_file.begin(*m_run.pages, PicturePageName(picture.id));
     (isRectangle ? m_rectangleTop : m_arrowTop).append(page(), {title});
     m_file.line("<TR>");
     if (!marks.empty() && files.names == NamePlacement::Left) {

@@ -68,7 +68,7 @@ void GalleryWriter::write(const GalleryOwner& owner, const std::vector<std::stri
 {
     const std::size_t pages = (pictures.size() + thumbnailsOnPage - 1) / thumbnailsOnPage;
     for (std::size_t page = 1; page <= pages; ++page) {
-        m_file.begin(m_run.file(PageName(owner, page)));
+        m_file.begin(*m_run.pages, PageName(owner, page));
         m_top.append(m_file.bytes(),
                      {owner.title, "Page " + std::to_string(page) + " of " + std::to_string(pages), owner.listPage});
         const std::size_t first = (page - 1) * thumbnailsOnPage;

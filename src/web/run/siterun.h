@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/environment.h"
+#include "base/files.h"
 #include "index/familytree.h"
 #include "web/run/hiddennames.h"
 #include "web/run/pageassignment.h"
@@ -12,6 +13,8 @@
 #include "web/run/sitetexts.h"
 #include "web/setup/setup.h"
 #include "web/setup/treedisplay.h"
+
+#include <memory>
 
 /// What the page writers of one publication share: the settings of the run, the family tree and its texts, and the
 /// trees that are on the site. It is handed to each of them; nothing about a run is kept elsewhere.
@@ -55,6 +58,8 @@ struct SiteRun {
     const ApplicationFolder& application;
     /// The output folder's full path.
     QString folder;
+    /// The same while pages are written.
+    std::unique_ptr<OpenFolder> pages{};
     std::vector<PublishedTree> trees{};
     /// Known once the trees are.
     HiddenNames hiddenNames{};

@@ -56,7 +56,7 @@ public:
     {
         m_cells.compose(owner);
         const ChartLayout layout = LayOutChart(m_cells.boxes());
-        m_file.begin(m_run.file(TreePageName(m_tree, m_run.tree.individualId(m_tree.walk.entries()[owner].person))));
+        m_file.begin(*m_run.pages, TreePageName(m_tree, m_run.tree.individualId(m_tree.walk.entries()[owner].person)));
         WriteTreePageHead(m_file, m_run, m_tree, owner);
         writeTop(layout);
         for (const ChartStripe& stripe : CutIntoStripes(layout)) {

@@ -30,7 +30,7 @@ public:
 
     void write(StepProgress& progress)
     {
-        m_file.begin(m_run.file(FirstPageName(m_tree, m_run.tree)));
+        m_file.begin(*m_run.pages, FirstPageName(m_tree, m_run.tree));
         writeTop();
         const std::vector<TreeEntry>& entries = m_tree.walk.entries();
         for (EntryNumber number = 0; number < entries.size(); ++number) {

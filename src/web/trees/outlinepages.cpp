@@ -79,7 +79,7 @@ private:
         }
         Page& opened = m_pages[m_open++];
         opened.owner = owner;
-        opened.file.begin(m_run.file(TreePageName(m_tree, idOf(entryAt(owner)))));
+        opened.file.begin(*m_run.pages, TreePageName(m_tree, idOf(entryAt(owner))));
         WriteTreePageHead(opened.file, m_run, m_tree, owner);
     }
 
