@@ -58,7 +58,7 @@ struct SiteRun {
     const ApplicationFolder& application;
     /// The output folder's full path.
     QString folder;
-    /// The same while pages are written.
+    /// The output folder itself, from the moment on in which its first page is written; null before.
     std::unique_ptr<OpenFolder> pages{};
     std::vector<PublishedTree> trees{};
     /// Known once the trees are.
